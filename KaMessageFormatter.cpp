@@ -1,0 +1,59 @@
+// The plug-in's load-time initialisation. Everything here is constructed once, on the
+// loading thread, before the host can call a formatter, in the order of definition in
+// this one translation unit:
+//   1. the standard stream initialiser (from <iostream>, included first);
+//   2. the packet-printer object kanetPktTraceFormatterWrapper;
+//   3. the code-to-name tables: address family, adj-RIB-in type, AFI, multicast tunnel
+//      type, NLRI type names, NLRI type to AfiSafi, routing protocol, SAFI;
+//   4. formatMap;
+//   5. the FormatterPlugin instance, which registers every formatMap entry.
+// Destructors run at unload in the reverse order. The EVPN layer-2 tables are the only
+// ones built later, on first use.
+#include <iostream>
+
+#include "address/AddressFamily.h"
+#include "address/AfAddress.h"
+#include "address/Ethernet.h"
+#include "address/GenericAddress.h"
+#include "address/GenericPrefix.h"
+#include "address/Ip.h"
+#include "address/SystemId.h"
+#include "registry/FormatMap.h"
+
+#include <iterator>
+
+namespace Orvane {
+
+// 3. Code-to-name tables, in load order.
+const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
+                                   std::end(kAddressFamilyNameEntries));
+
+// 4. The identifier table. Order has no effect on behaviour; sorted by id.
+std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
+    {"A", {formatAfAddr, lengthAfAddr}},
+    {"AF", {formatAf, lengthAf}},
+    {"AM4", {formatIpPrefix, lengthIpPrefix}},
+    {"AM6", {formatIp6Prefix, lengthIp6Prefix}},
+    {"DSFID", {formatDsfSystemId, lengthDsfSystemId}},
+    {"E", {formatEth, lengthEth}},
+    {"EC", {formatEthColonSeparated, lengthEthColonSeparated}},
+    {"EM", {formatEthMask, lengthEthMask}},
+    {"ES", {formatEthSegment, lengthEthSegment}},
+    {"I", {formatIp, lengthIp}},
+    {"I6", {formatIp6Addr, lengthIp6Addr}},
+    {"IG", {formatIpGenAddr, lengthIpGenAddr}},
+    {"IGM", {formatIpGenAddrWithFullMask, lengthIpGenAddrWithFullMask}},
+    {"IGMO", {formatIpGenAddrOptWithFullMask, lengthIpGenAddrWithFullMaskOpt}},
+    {"IGO", {formatIpGenAddrOpt, lengthIpGenAddrOpt}},
+    {"IP", {formatIpAndPort, lengthIpAndPort}},
+    {"IS", {formatIsisSystemId, lengthIsisSystemId}},
+    {"P", {formatIpPrefix, lengthIpPrefix}},
+    {"P6", {formatIp6Prefix, lengthIp6Prefix}},
+    {"PG", {formatIpGenPrefix, lengthIpGenPrefix}},
+    {"PGO", {formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized}},
+};
+
+} // namespace Orvane
+
+// 5. Registration with the host.
+static FormatterPlugin formatterPlugin;

@@ -1,0 +1,30 @@
+// The tagged generic address, its Opt form, and their address/mask pairs: ids "IG",
+// "IGO", "IGM", "IGMO".
+//
+// Generic address (21 bytes): u8 tag (0 unknown, 1 IPv4, 2 IPv6), a native u32 IPv4
+// slot at 1 and a 16-byte IPv6 slot at 5; both slots are always present.
+// Opt form: the tag, then only the slot the tag names: 5, 17 or 1 bytes.
+#pragma once
+
+#include <ostream>
+
+namespace Orvane {
+
+/// "IG": the slot the tag names, or "unknown" for any other tag. Returns 21.
+unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os);
+unsigned lengthIpGenAddr(const unsigned char* p); ///< 21
+
+/// "IGO": as "IG" over the Opt form. Returns 5 (tag 1), 17 (tag 2) or 1.
+unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os);
+unsigned lengthIpGenAddrOpt(const unsigned char* p); ///< 5, 17 or 1 by the tag
+
+/// "IGM": address "/" mask, both generic addresses, e.g. 10.1.0.0/255.255.0.0. Returns 42.
+unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);
+unsigned lengthIpGenAddrWithFullMask(const unsigned char* p); ///< 42
+
+/// "IGMO": as "IGM" over two Opt addresses, the mask starting where the address ends.
+unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os);
+/// The two Opt lengths added.
+unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p);
+
+} // namespace Orvane

@@ -1,0 +1,68 @@
+#include "address/GenericPrefix.h"
+
+#include "address/AddressFamily.h"
+#include "address/Ip.h"
+#include "registry/Formatter.h"
+
+#include <arpa/inet.h>
+#include <cstdio>
+#include <cstring>
+
+namespace Orvane {
+namespace {
+
+constexpr unsigned char kNoAddressLength = 255;
+// An IPv4 length of 33 is a marker that prints like the 255 one.
+constexpr unsigned char kIpv4MarkerLength = 33;
+
+void printUnknownFamily(std::ostream& os, unsigned char tag) {
+  char text[48];
+  std::snprintf(text, sizeof text, "unknown address family(%hhd)", static_cast<signed char>(tag));
+  os << text;
+}
+
+} // namespace
+
+unsigned formatIpGenPrefix(const unsigned char* p, std::ostream& os) {
+  if (p[0] == kFamilyIpv4)
+    printIpv4Bytes(os, p + 1);
+  else if (p[0] == kFamilyIpv6)
+    printIpv6Bytes(os, p + 1);
+  else
+    printUnknownFamily(os, p[0]);
+  os << "/" << static_cast<unsigned>(p[17]);
+  return lengthIpGenPrefix(p);
+}
+unsigned lengthIpGenPrefix(const unsigned char*) { return 18; }
+
+unsigned formatIpGenPrefixOptimized(const unsigned char* p, std::ostream& os) {
+  const unsigned char tag = p[0], bits = p[1];
+  if (tag == kFamilyIpv4 && (bits == kIpv4MarkerLength || bits == kNoAddressLength)) {
+    os << "0.0.0.0/255";
+  } else if (bits == kNoAddressLength) {
+    if (tag == kFamilyIpv6) os << "::/255";
+  } else if (tag == kFamilyIpv4 || tag == kFamilyIpv6) {
+    // Only the leading ceil(L/8) bytes are stored; the rest of the address is zero.
+    unsigned char address[64] = {};
+    std::memcpy(address, p + 2, (bits + 7u) / 8u);
+    char text[48];
+    if (inet_ntop(tag == kFamilyIpv4 ? AF_INET : AF_INET6, address, text, sizeof text))
+      os << text << "/" << static_cast<unsigned>(bits);
+    else
+      os << "unknown";
+  } else {
+    printUnknownFamily(os, tag);
+    os << "/" << static_cast<unsigned>(bits);
+  }
+  return lengthIpGenPrefixOptimized(p);
+}
+
+unsigned lengthIpGenPrefixOptimized(const unsigned char* p) {
+  const unsigned char tag = p[0], bits = p[1];
+  if (tag == kFamilyUnknown) return 2;
+  if (tag != kFamilyIpv4 && tag != kFamilyIpv6) return kInvalidLength;
+  if (bits == kNoAddressLength) return 2;
+  return 2 + (bits + 7u) / 8u;
+}
+
+} // namespace Orvane

@@ -1,0 +1,43 @@
+// IPv4 and IPv6 addresses, prefixes and address-with-port: ids "I", "I6", "P"/"AM4",
+// "P6"/"AM6" and "IP".
+//
+// An IPv4 address stored as a u32 is a number in host order (a.b.c.d = a*2^24 + ...); it
+// is byte-swapped to network order before conversion. IPv6 addresses are 16 raw bytes in
+// network order. A failed conversion prints "unknown" in the address's place.
+#pragma once
+
+#include <ostream>
+
+namespace Orvane {
+
+/// Writes four raw network-order bytes as a dotted IPv4 address, or "unknown".
+void printIpv4Bytes(std::ostream& os, const unsigned char* bytes);
+/// Writes 16 raw network-order bytes as an IPv6 address, or "unknown".
+void printIpv6Bytes(std::ostream& os, const unsigned char* bytes);
+
+/// Converts the native-order u32 IPv4 address at `p` into `buf` (of `len` bytes) and
+/// returns `buf`; when the conversion fails, copies "unknown" with strncpy. Writes
+/// nothing to any stream.
+char* formatIpAddr(const unsigned char* p, char* buf, unsigned len);
+
+/// "I": native u32 IPv4 address, e.g. 10.0.0.1. Returns 4.
+unsigned formatIp(const unsigned char* p, std::ostream& os);
+unsigned lengthIp(const unsigned char* p); ///< 4
+
+/// "I6": 16-byte IPv6 address. Returns 16.
+unsigned formatIp6Addr(const unsigned char* p, std::ostream& os);
+unsigned lengthIp6Addr(const unsigned char* p); ///< 16
+
+/// "P", "AM4": IPv4 address then "/" and the u8 prefix length, e.g. 10.0.0.0/8. Returns 5.
+unsigned formatIpPrefix(const unsigned char* p, std::ostream& os);
+unsigned lengthIpPrefix(const unsigned char* p); ///< 5
+
+/// "P6", "AM6": IPv6 address then "/" and the u8 prefix length. Returns 17.
+unsigned formatIp6Prefix(const unsigned char* p, std::ostream& os);
+unsigned lengthIp6Prefix(const unsigned char* p); ///< 17
+
+/// "IP": IPv4 address, ":" and the native u16 port, e.g. 10.0.0.1:179. Returns 6.
+unsigned formatIpAndPort(const unsigned char* p, std::ostream& os);
+unsigned lengthIpAndPort(const unsigned char* p); ///< 6
+
+} // namespace Orvane

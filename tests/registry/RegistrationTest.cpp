@@ -1,0 +1,81 @@
+// Loading the plug-in into the host: what reaches the registry, and in what order.
+#include "host/PluginLoader.h"
+#include "host/Registry.h"
+#include "registry/Formatter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace Orvane::test {
+namespace {
+
+using Kind = host::RegistrationCall::Kind;
+
+// Every id the plug-in supplies, by subsystem.
+const std::set<std::string> kExpectedIds = {
+    // address/
+    "A", "AF", "AM4", "AM6", "DSFID", "E", "EC", "EM", "ES", "I", "I6", "IG", "IGM", "IGMO",
+    "IGO", "IP", "IS", "P", "P6", "PG", "PGO",
+};
+
+class Registration : public ::testing::Test {
+protected:
+  static void SetUpTestSuite() { ASSERT_TRUE(host::loadPlugin(PLUGIN_PATH).empty()); }
+};
+
+TEST_F(Registration, EveryIdOnceThroughEachCallFormatFirst) {
+  std::map<std::string, std::vector<Kind>> callsById;
+  for (const auto& call : host::registrationLog()) callsById[call.id].push_back(call.kind);
+
+  std::set<std::string> ids;
+  for (const auto& [id, kinds] : callsById) {
+    ids.insert(id);
+    EXPECT_EQ(kinds, (std::vector<Kind>{Kind::Format, Kind::Length})) << "id " << id;
+  }
+  EXPECT_EQ(ids, kExpectedIds);
+  EXPECT_EQ(host::registrationLog().size(), 2 * kExpectedIds.size());
+}
+
+TEST_F(Registration, FormatAndLengthCallsOfAnIdAreAdjacent) {
+  const auto log = host::registrationLog();
+  for (std::size_t i = 0; i + 1 < log.size(); i += 2) {
+    EXPECT_EQ(log[i].kind, Kind::Format);
+    EXPECT_EQ(log[i + 1].id, log[i].id);
+  }
+}
+
+TEST_F(Registration, AliasesRegisterTheSameFunctions) {
+  for (auto [alias, id] : {std::pair{"P", "AM4"}, std::pair{"P6", "AM6"}}) {
+    const auto* a = host::findFormatter(alias);
+    const auto* b = host::findFormatter(id);
+    ASSERT_TRUE(a && b);
+    EXPECT_EQ(*a->format.target<FormatPtr>(), *b->format.target<FormatPtr>()) << alias;
+    EXPECT_EQ(*a->length.target<LengthPtr>(), *b->length.target<LengthPtr>()) << alias;
+  }
+}
+
+TEST_F(Registration, LoadingAgainRegistersNothingNew) {
+  const auto before = host::registrationLog().size();
+  EXPECT_TRUE(host::loadPlugin(PLUGIN_PATH).empty());
+  EXPECT_EQ(host::registrationLog().size(), before);
+}
+
+TEST(Loader, ReportsPathsThatAreNotPlugins) {
+  auto missing = host::loadPlugin("/nonexistent/libNothing.so");
+  ASSERT_EQ(missing.size(), 1u);
+  EXPECT_EQ(missing[0].path, "/nonexistent/libNothing.so");
+  EXPECT_NE(missing[0].reason.find("No such file"), std::string::npos);
+
+  // A shared object that loads but registers nothing is not a plug-in.
+  auto notPlugin = host::loadPlugin("libm.so.6");
+  ASSERT_EQ(notPlugin.size(), 1u);
+  EXPECT_NE(notPlugin[0].reason.find("registered no formatter"), std::string::npos);
+
+  EXPECT_EQ(host::loadPluginDirectory("/nonexistent-dir").size(), 1u);
+}
+
+} // namespace
+} // namespace Orvane::test

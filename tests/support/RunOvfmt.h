@@ -1,0 +1,20 @@
+// Running the ovfmt binary as a user would, capturing what it prints.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Orvane::test {
+
+struct RunResult {
+  int status = -1; ///< exit status, or -1 when it did not exit normally
+  std::string out;
+  std::string err;
+};
+
+/// Runs ovfmt with `args`, feeding `input` on standard input. `environment` entries
+/// ("NAME=value") are added to the inherited environment.
+RunResult runOvfmt(const std::vector<std::string>& args, const std::string& input = "",
+                   const std::vector<std::string>& environment = {});
+
+} // namespace Orvane::test
