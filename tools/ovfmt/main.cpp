@@ -2,6 +2,7 @@
 // "ID HEX..." on the command line or, with --batch, one per line of a file.
 #include "host/PluginLoader.h"
 #include "host/Registry.h"
+#include "tools/ovfmt/BatchLine.h"
 #include "tools/ovfmt/Decode.h"
 #include "tools/ovfmt/Hex.h"
 
@@ -123,15 +124,11 @@ int formatBatch(const Options& options) {
   std::size_t values = 0, lineNumber = 0;
   for (std::string line; std::getline(in, line);) {
     ++lineNumber;
-    const auto start = line.find_first_not_of(" \t\r");
-    if (start == std::string::npos || line[start] == '#') continue;
-    const auto idEnd = line.find_first_of(" \t\r", start);
-    const std::string_view text(line);
-    const auto id = text.substr(start, idEnd == std::string::npos ? idEnd : idEnd - start);
-    auto hex = idEnd == std::string::npos ? std::string_view() : text.substr(idEnd);
-    if (!hex.empty() && hex.back() == '\r') hex.remove_suffix(1);
+    const auto parts = ovfmt::splitBatchLine(line);
+    if (!parts) continue;
     ++values;
-    allPrinted &= formatOne(name + ":" + std::to_string(lineNumber), id, hex, options.counts);
+    allPrinted &=
+        formatOne(name + ":" + std::to_string(lineNumber), parts->id, parts->hex, options.counts);
   }
   if (values == 0) std::cerr << "ovfmt: " << name << ": no values to format\n";
   return allPrinted ? kExitOk : kExitValueFailed;
