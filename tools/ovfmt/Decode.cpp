@@ -1,21 +1,40 @@
 #include "tools/ovfmt/Decode.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace Orvane::ovfmt {
+namespace {
 
-Decoded decodeValue(const host::FormatterPair& formatter, const std::vector<unsigned char>& bytes) {
-  std::vector<unsigned char> buffer(kGuardBefore + bytes.size() + kGuardAfter, 0);
-  std::copy(bytes.begin(), bytes.end(), buffer.begin() + kGuardBefore);
-  const unsigned char* value = buffer.data() + kGuardBefore;
+// Formatters may leave a base, a fill or a width set; a new stream has none of them.
+void resetToNew(std::ostringstream& os) {
+  os.str(std::string());
+  os.clear();
+  os.flags(std::ios_base::dec | std::ios_base::skipws);
+  os.fill(' ');
+  os.width(0);
+  os.precision(6);
+}
+
+} // namespace
+
+Decoded Decoder::decode(const host::FormatterPair& formatter,
+                        const std::vector<unsigned char>& bytes) {
+  const std::size_t needed = kGuardBefore + bytes.size() + kGuardAfter;
+  if (buffer_.size() < needed) buffer_.resize(needed, 0);
+  unsigned char* value = buffer_.data() + kGuardBefore;
+  std::copy(bytes.begin(), bytes.end(), value);
 
   Decoded decoded;
   decoded.length = formatter.length(value);
-  std::ostringstream os;
-  decoded.consumed = formatter.format(value, os);
-  decoded.text = std::move(os).str();
+  resetToNew(stream_);
+  decoded.consumed = formatter.format(value, stream_);
+  decoded.text = stream_.str();
+  std::fill_n(value, bytes.size(), 0);
   return decoded;
+}
+
+Decoded decodeValue(const host::FormatterPair& formatter, const std::vector<unsigned char>& bytes) {
+  return Decoder().decode(formatter, bytes);
 }
 
 } // namespace Orvane::ovfmt

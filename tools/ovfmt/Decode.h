@@ -3,6 +3,7 @@
 
 #include "host/Registry.h"
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,23 @@ struct Decoded {
   std::string text;      ///< what the format function printed
 };
 
-/// Copies `bytes` into a zero-filled buffer with the guards around it, asks the length
-/// function, then formats on a fresh stream.
+/// Formats values one after another in one guarded buffer and one stream. The buffer
+/// is zero-filled once and only each value's own bytes are zeroed again after it; the
+/// stream is emptied and put back in a new stream's state (base, fill, width, precision)
+/// before each value. A new buffer and stream per value would allocate, clear the guards
+/// and set up a locale every time.
+class Decoder {
+public:
+  /// Copies `bytes` into the buffer between the guards, asks the length function, then
+  /// formats on the stream as a new stream would.
+  Decoded decode(const host::FormatterPair& formatter, const std::vector<unsigned char>& bytes);
+
+private:
+  std::vector<unsigned char> buffer_; ///< all zero between calls
+  std::ostringstream stream_;
+};
+
+/// Decoder::decode() on a decoder of its own, for a single value.
 Decoded decodeValue(const host::FormatterPair& formatter, const std::vector<unsigned char>& bytes);
 
 } // namespace Orvane::ovfmt

@@ -68,9 +68,22 @@ std::string printable(std::string_view text) {
 
 std::string bytesWord(std::size_t n) { return std::to_string(n) + (n == 1 ? " byte" : " bytes"); }
 
+// Where a value came from, put into words only when a message names it (most values
+// need no message, so no text is built for them).
+struct Where {
+  std::string_view source; ///< the batch input's name, or the id given on the command line
+  std::size_t line = 0;    ///< the batch line, 0 for a value on the command line
+};
+
+std::ostream& operator<<(std::ostream& os, const Where& where) {
+  os << where.source;
+  if (where.line) os << ':' << where.line;
+  return os;
+}
+
 // Formats one value and prints it; returns false when the value failed.
-bool formatOne(const std::string& where, std::string_view id, std::string_view hex,
-               bool counts) {
+bool formatOne(const Where& where, std::string_view id, std::string_view hex,
+               bool counts, ovfmt::Decoder& decoder) {
   auto fail = [&](const std::string& problem) {
     std::cerr << "ovfmt: " << where << ": " << problem << "\n";
     return false;
@@ -84,7 +97,7 @@ bool formatOne(const std::string& where, std::string_view id, std::string_view h
   auto bytes = ovfmt::parseHex(hex, hexError);
   if (!bytes) return fail(hexError);
 
-  const ovfmt::Decoded decoded = ovfmt::decodeValue(*formatter, *bytes);
+  const ovfmt::Decoded decoded = decoder.decode(*formatter, *bytes);
   const std::size_t given = bytes->size();
   if (counts) {
     std::cout << id << '\t' << decoded.length << '\t' << decoded.consumed << '\t' << decoded.text
@@ -122,13 +135,13 @@ int formatBatch(const Options& options) {
 
   bool allPrinted = true;
   std::size_t values = 0, lineNumber = 0;
+  ovfmt::Decoder decoder;
   for (std::string line; std::getline(in, line);) {
     ++lineNumber;
     const auto parts = ovfmt::splitBatchLine(line);
     if (!parts) continue;
     ++values;
-    allPrinted &=
-        formatOne(name + ":" + std::to_string(lineNumber), parts->id, parts->hex, options.counts);
+    allPrinted &= formatOne({name, lineNumber}, parts->id, parts->hex, options.counts, decoder);
   }
   if (values == 0) std::cerr << "ovfmt: " << name << ": no values to format\n";
   return allPrinted ? kExitOk : kExitValueFailed;
@@ -212,5 +225,7 @@ int main(int argc, char** argv) {
   std::string hex;
   for (std::size_t i = 1; i < options.value.size(); ++i) hex += options.value[i] + " ";
   const std::string& id = options.value.front();
-  return formatOne(printable(id), id, hex, options.counts) ? kExitOk : kExitValueFailed;
+  ovfmt::Decoder decoder;
+  const std::string shownId = printable(id);
+  return formatOne({shownId}, id, hex, options.counts, decoder) ? kExitOk : kExitValueFailed;
 }

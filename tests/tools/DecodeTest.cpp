@@ -1,0 +1,70 @@
+// One Decoder formats value after value; each must format as if it were the first:
+// on a stream in a new stream's state, in a buffer that is zero outside the value.
+#include "tools/ovfmt/Decode.h"
+
+#include <gtest/gtest.h>
+
+#include <iomanip>
+
+namespace Orvane::test {
+namespace {
+
+unsigned lengthOne(const unsigned char*) { return 1; }
+
+host::FormatterPair pairOf(FormatFn format) { return {std::move(format), lengthOne}; }
+
+// Prints a number, a fraction and a character: each shows a different piece of stream
+// state that an earlier formatter may have left behind.
+const host::FormatterPair kProbe = pairOf([](const unsigned char*, std::ostream& os) {
+  os << 255 << '|' << 1.0 / 3 << '|' << 'x';
+  return 1u;
+});
+
+TEST(Decoder, EachValueSeesANewStreamsState) {
+  const struct {
+    const char* left;
+    FormatFn format;
+  } cases[] = {
+      {"hex", [](auto, std::ostream& os) { return (os << std::hex), 1u; }},
+      {"fill and width", [](auto, std::ostream& os) { return (os << std::setfill('0') << std::setw(8)), 1u; }},
+      {"uppercase showbase hex", [](auto, std::ostream& os) {
+         return (os << std::uppercase << std::showbase << std::hex), 1u; }},
+      {"precision and fixed", [](auto, std::ostream& os) { return (os << std::setprecision(2) << std::fixed), 1u; }},
+      {"left adjustment", [](auto, std::ostream& os) { return (os << std::left << std::setw(6)), 1u; }},
+  };
+  const std::string fresh = ovfmt::decodeValue(kProbe, {0}).text;
+  ASSERT_EQ(fresh, "255|0.333333|x");
+  for (const auto& c : cases) {
+    ovfmt::Decoder decoder;
+    decoder.decode(pairOf(c.format), {0});
+    EXPECT_EQ(decoder.decode(kProbe, {0}).text, fresh) << "after a formatter that left " << c.left;
+  }
+}
+
+TEST(Decoder, BytesAroundAValueAreZeroAfterALongerOne) {
+  // Prints the byte before the value and the eight from its start.
+  const auto around = pairOf([](const unsigned char* p, std::ostream& os) {
+    for (int i = -1; i < 8; ++i) os << static_cast<unsigned>(p[i]) << ' ';
+    return 1u;
+  });
+  ovfmt::Decoder decoder;
+  decoder.decode(around, std::vector<unsigned char>(300, 0xff));
+  EXPECT_EQ(decoder.decode(around, {7}).text, "0 7 0 0 0 0 0 0 0 ");
+}
+
+TEST(Decoder, TextIsOnlyThisValues) {
+  const auto echo = pairOf([](const unsigned char* p, std::ostream& os) {
+    os << static_cast<unsigned>(p[0]);
+    return 1u;
+  });
+  ovfmt::Decoder decoder;
+  const auto first = decoder.decode(echo, {123});
+  const auto second = decoder.decode(echo, {4});
+  EXPECT_EQ(first.text, "123");
+  EXPECT_EQ(second.text, "4");
+  EXPECT_EQ(second.length, 1u);
+  EXPECT_EQ(second.consumed, 1u);
+}
+
+} // namespace
+} // namespace Orvane::test
