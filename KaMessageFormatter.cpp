@@ -18,6 +18,7 @@
 #include "address/GenericPrefix.h"
 #include "address/Ip.h"
 #include "address/SystemId.h"
+#include "bgp/AfiSafi.h"
 #include "registry/FormatMap.h"
 
 #include <iterator>
@@ -27,6 +28,11 @@ namespace Orvane {
 // 3. Code-to-name tables, in load order.
 const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
                                    std::end(kAddressFamilyNameEntries));
+const NameTable afiNames(std::begin(kAfiNameEntries), std::end(kAfiNameEntries));
+const NameTable nlriTypeNames(std::begin(kNlriTypeNameEntries), std::end(kNlriTypeNameEntries));
+const std::unordered_map<unsigned, AfiSafi>
+    nlriTypeToAfiSafi(std::begin(kNlriTypeToAfiSafiEntries), std::end(kNlriTypeToAfiSafiEntries));
+const NameTable safiNames(std::begin(kSafiNameEntries), std::end(kSafiNameEntries));
 
 // 4. The identifier table. Order has no effect on behaviour; sorted by id.
 std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
