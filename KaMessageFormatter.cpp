@@ -57,6 +57,12 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"P6", {formatIp6Prefix, lengthIp6Prefix}},
     {"PG", {formatIpGenPrefix, lengthIpGenPrefix}},
     {"PGO", {formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized}},
+    // BGP codes, RDs and RTs, MPLS labels and FECs, EVPN layer-2 attributes.
+    {"AFI", {static_cast<FormatPtr>(formatAfi), lengthAfi}},
+    {"AFS", {static_cast<FormatPtr>(formatAfiSafi), lengthAfiSafi}},
+    {"NLRI", {static_cast<FormatPtr>(formatNlriType), lengthNlriType}},
+    {"NLRI2AFISAFI", {formatNlriType2AfiSafi, lengthNlriType2AfiSafi}},
+    {"SAFI", {formatSafiLegacy, lengthSafi}},
 };
 
 } // namespace Orvane

@@ -19,6 +19,8 @@ const std::set<std::string> kExpectedIds = {
     // address/
     "A", "AF", "AM4", "AM6", "DSFID", "E", "EC", "EM", "ES", "I", "I6", "IG", "IGM", "IGMO",
     "IGO", "IP", "IS", "P", "P6", "PG", "PGO",
+    // bgp/ codes, RDs and RTs, mpls/ labels and FECs, bgp/ EVPN layer-2 attributes
+    "AFI", "AFS", "NLRI", "NLRI2AFISAFI", "SAFI",
 };
 
 class Registration : public ::testing::Test {
