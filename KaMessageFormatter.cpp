@@ -19,6 +19,7 @@
 #include "address/Ip.h"
 #include "address/SystemId.h"
 #include "bgp/AfiSafi.h"
+#include "bgp/RouteDistinguisher.h"
 #include "registry/FormatMap.h"
 
 #include <iterator>
@@ -62,6 +63,9 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"AFS", {static_cast<FormatPtr>(formatAfiSafi), lengthAfiSafi}},
     {"NLRI", {static_cast<FormatPtr>(formatNlriType), lengthNlriType}},
     {"NLRI2AFISAFI", {formatNlriType2AfiSafi, lengthNlriType2AfiSafi}},
+    {"RD", {static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher}},
+    {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
+    {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
     {"SAFI", {formatSafiLegacy, lengthSafi}},
 };
 
