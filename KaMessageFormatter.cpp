@@ -20,6 +20,8 @@
 #include "address/SystemId.h"
 #include "bgp/AfiSafi.h"
 #include "bgp/RouteDistinguisher.h"
+#include "mpls/Fec.h"
+#include "mpls/Label.h"
 #include "registry/FormatMap.h"
 
 #include <iterator>
@@ -66,6 +68,14 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"RD", {static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher}},
     {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
     {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
+    {"EL", {formatEvpnLabel, lengthEvpnLabel}},
+    {"FM", {formatMplsFwdEqvClass, lengthMplsFwdEqvClass}},
+    {"FMO", {formatMplsFwdEqvClassOptimized, lengthMplsFwdEqvClassOptimized}},
+    {"GFID", {formatGlobalFecId, lengthGlobalFecId}},
+    {"LO", {formatMplsLabelOperation, lengthMplsLabelOperation}},
+    {"LVK", {formatLfibViaKey, lengthLfibViaKey}},
+    {"ML", {static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel}},
+    {"MRTR", {formatMplsRouterId, lengthMplsRouterId}},
     {"SAFI", {formatSafiLegacy, lengthSafi}},
 };
 

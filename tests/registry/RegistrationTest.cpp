@@ -20,7 +20,8 @@ const std::set<std::string> kExpectedIds = {
     "A", "AF", "AM4", "AM6", "DSFID", "E", "EC", "EM", "ES", "I", "I6", "IG", "IGM", "IGMO",
     "IGO", "IP", "IS", "P", "P6", "PG", "PGO",
     // bgp/ codes, RDs and RTs, mpls/ labels and FECs, bgp/ EVPN layer-2 attributes
-    "AFI", "AFS", "NLRI", "NLRI2AFISAFI", "RD", "RT", "RTMRK", "SAFI",
+    "AFI", "AFS", "NLRI", "NLRI2AFISAFI", "RD", "RT", "RTMRK", "SAFI", "EL", "FM", "FMO",
+    "GFID", "LO", "LVK", "ML", "MRTR",
 };
 
 class Registration : public ::testing::Test {
