@@ -19,6 +19,7 @@
 #include "address/Ip.h"
 #include "address/SystemId.h"
 #include "bgp/AfiSafi.h"
+#include "bgp/EvpnL2Attrs.h"
 #include "bgp/RouteDistinguisher.h"
 #include "mpls/Fec.h"
 #include "mpls/Label.h"
@@ -63,12 +64,10 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     // BGP codes, RDs and RTs, MPLS labels and FECs, EVPN layer-2 attributes.
     {"AFI", {static_cast<FormatPtr>(formatAfi), lengthAfi}},
     {"AFS", {static_cast<FormatPtr>(formatAfiSafi), lengthAfiSafi}},
-    {"NLRI", {static_cast<FormatPtr>(formatNlriType), lengthNlriType}},
-    {"NLRI2AFISAFI", {formatNlriType2AfiSafi, lengthNlriType2AfiSafi}},
-    {"RD", {static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher}},
-    {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
-    {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
     {"EL", {formatEvpnLabel, lengthEvpnLabel}},
+    {"EL2", {formatEvpnL2AttrsV2, lengthEvpnL2Attrs}},
+    {"EL2V3", {formatEvpnL2AttrsV3, lengthEvpnL2Attrs}},
+    {"EL2old", {formatEvpnL2AttrsV1, lengthEvpnL2Attrs}},
     {"FM", {formatMplsFwdEqvClass, lengthMplsFwdEqvClass}},
     {"FMO", {formatMplsFwdEqvClassOptimized, lengthMplsFwdEqvClassOptimized}},
     {"GFID", {formatGlobalFecId, lengthGlobalFecId}},
@@ -76,6 +75,11 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"LVK", {formatLfibViaKey, lengthLfibViaKey}},
     {"ML", {static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel}},
     {"MRTR", {formatMplsRouterId, lengthMplsRouterId}},
+    {"NLRI", {static_cast<FormatPtr>(formatNlriType), lengthNlriType}},
+    {"NLRI2AFISAFI", {formatNlriType2AfiSafi, lengthNlriType2AfiSafi}},
+    {"RD", {static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher}},
+    {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
+    {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
     {"SAFI", {formatSafiLegacy, lengthSafi}},
 };
 
