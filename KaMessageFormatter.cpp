@@ -18,6 +18,12 @@
 #include "address/GenericPrefix.h"
 #include "address/Ip.h"
 #include "address/SystemId.h"
+#include "mpls/BfdKeys.h"
+#include "mpls/CspfKeys.h"
+#include "mpls/IgpNode.h"
+#include "mpls/Multicast.h"
+#include "mpls/RibKeys.h"
+#include "mpls/TunnelKeys.h"
 #include "registry/FormatMap.h"
 
 #include <iterator>
@@ -27,8 +33,13 @@ namespace Orvane {
 // 3. Code-to-name tables, in load order.
 const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
                                    std::end(kAddressFamilyNameEntries));
+const NameTable multicastTunnelTypeNames(std::begin(kMulticastTunnelTypeNameEntries),
+                                         std::end(kMulticastTunnelTypeNameEntries));
+const NameTable routingProtocolNames(std::begin(kRoutingProtocolNameEntries),
+                                     std::end(kRoutingProtocolNameEntries));
 
-// 4. The identifier table. Order has no effect on behaviour; sorted by id.
+// 4. The identifier table. Order has no effect on behaviour; one block per
+// family, sorted by id within it.
 std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"A", {formatAfAddr, lengthAfAddr}},
     {"AF", {formatAf, lengthAf}},
@@ -51,6 +62,36 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"P6", {formatIp6Prefix, lengthIp6Prefix}},
     {"PG", {formatIpGenPrefix, lengthIpGenPrefix}},
     {"PGO", {formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized}},
+    // Tunnel, pseudowire, RIB, IGP node, multicast, CSPF and BFD keys.
+    {"BP", {formatBfdPeer, lengthBfdPeer}},
+    {"BPO", {formatBfdPeerOptimized, lengthBfdPeerOptimized}},
+    {"CCPK", {formatCspfClientPathKey, lengthCspfClientPathKey}},
+    {"CP2MPK", {formatCspfP2mpPathKey, lengthCspfP2mpPathKey}},
+    {"CPK", {formatCspfPathKey, lengthCspfPathKey}},
+    {"CV", {formatCspfVertex, lengthCspfVertex}},
+    {"IGPN", {formatIgpNodeId, lengthIgpNodeId}},
+    {"MF", {formatMRouteFlags, lengthMRouteFlags}},
+    {"MFGK", {formatMfibGenRouteKey, lengthMfibGenRouteKey}},
+    {"MFGKO", {formatMfibGenRouteKeyOptimized, lengthMfibGenRouteKeyOptimized}},
+    {"MFK", {formatMfibRouteKey, lengthMfibRouteKey}},
+    {"MIJ", {formatMRouteIntfJoinState, lengthMRouteIntfJoinState}},
+    {"MIR", {formatMRouteIntfRptJoinState, lengthMRouteIntfRptJoinState}},
+    {"MK", {formatMRouteKey, lengthMRouteKey}},
+    {"MKO", {formatMRouteKeyOptimized, lengthMRouteKeyOptimized}},
+    {"MTT", {formatMulticastTunnelType, lengthMulticastTunnelType}},
+    {"PGKR", {formatIpGenUcastKeyRef, lengthIpGenUcastKeyRef}},
+    {"PGKRO", {formatIpGenUcastKeyRefOptimized, lengthIpGenUcastKeyRefOptimized}},
+    {"PW", {formatPseudowireKey, lengthPseudowireKey}},
+    {"PWO", {formatPseudowireKeyOptimized, lengthPseudowireKeyOptimized}},
+    {"RRRK", {formatRibRouteKey, lengthRibRouteKey}},
+    {"RRRKO", {formatRibRouteKeyOptimized, lengthRibRouteKeyOptimized}},
+    {"RRRP", {formatRoutingProtocol, lengthRoutingProtocol}},
+    {"RVK", {formatRibViaKey, lengthRibViaKey}},
+    {"TK", {formatTunnelKey, lengthTunnelKey}},
+    {"TKG", {formatTunnelKeyGen, lengthTunnelKeyGen}},
+    {"TKGO", {formatTunnelKeyGenOptimized, lengthTunnelKeyGenOptimized}},
+    {"VLAFP", {formatAfProto, lengthAfProto}},
+    {"VLAFPV", {formatAfProtoVrfId, lengthAfProtoVrfId}},
 };
 
 } // namespace Orvane

@@ -19,6 +19,10 @@ const std::set<std::string> kExpectedIds = {
     // address/
     "A", "AF", "AM4", "AM6", "DSFID", "E", "EC", "EM", "ES", "I", "I6", "IG", "IGM", "IGMO",
     "IGO", "IP", "IS", "P", "P6", "PG", "PGO",
+    // mpls/: tunnel, pseudowire, RIB, IGP node, multicast, CSPF and BFD keys
+    "BP", "BPO", "CCPK", "CP2MPK", "CPK", "CV", "IGPN", "MF", "MFGK", "MFGKO", "MFK", "MIJ",
+    "MIR", "MK", "MKO", "MTT", "PGKR", "PGKRO", "PW", "PWO", "RRRK", "RRRKO", "RRRP", "RVK",
+    "TK", "TKG", "TKGO", "VLAFP", "VLAFPV",
 };
 
 class Registration : public ::testing::Test {
