@@ -22,6 +22,10 @@ const std::set<std::string> kExpectedIds = {
     // bgp/ codes, RDs and RTs, mpls/ labels and FECs, bgp/ EVPN layer-2 attributes
     "AFI", "AFS", "EL", "EL2", "EL2V3", "EL2old", "FM", "FMO", "GFID", "LO", "LVK", "ML",
     "MRTR", "NLRI", "NLRI2AFISAFI", "RD", "RT", "RTMRK", "SAFI",
+    // mpls/: tunnel, pseudowire, RIB, IGP node, multicast, CSPF and BFD keys
+    "BP", "BPO", "CCPK", "CP2MPK", "CPK", "CV", "IGPN", "MF", "MFGK", "MFGKO", "MFK", "MIJ",
+    "MIR", "MK", "MKO", "MTT", "PGKR", "PGKRO", "PW", "PWO", "RRRK", "RRRKO", "RRRP", "RVK",
+    "TK", "TKG", "TKGO", "VLAFP", "VLAFPV",
 };
 
 class Registration : public ::testing::Test {
