@@ -18,6 +18,17 @@
 #include "address/GenericPrefix.h"
 #include "address/Ip.h"
 #include "address/SystemId.h"
+#include "bgp/AfiSafi.h"
+#include "bgp/EvpnL2Attrs.h"
+#include "bgp/RouteDistinguisher.h"
+#include "mpls/BfdKeys.h"
+#include "mpls/CspfKeys.h"
+#include "mpls/Fec.h"
+#include "mpls/IgpNode.h"
+#include "mpls/Label.h"
+#include "mpls/Multicast.h"
+#include "mpls/RibKeys.h"
+#include "mpls/TunnelKeys.h"
 #include "registry/FormatMap.h"
 
 #include <iterator>
@@ -27,8 +38,18 @@ namespace Orvane {
 // 3. Code-to-name tables, in load order.
 const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
                                    std::end(kAddressFamilyNameEntries));
+const NameTable afiNames(std::begin(kAfiNameEntries), std::end(kAfiNameEntries));
+const NameTable multicastTunnelTypeNames(std::begin(kMulticastTunnelTypeNameEntries),
+                                         std::end(kMulticastTunnelTypeNameEntries));
+const NameTable nlriTypeNames(std::begin(kNlriTypeNameEntries), std::end(kNlriTypeNameEntries));
+const std::unordered_map<unsigned, AfiSafi>
+    nlriTypeToAfiSafi(std::begin(kNlriTypeToAfiSafiEntries), std::end(kNlriTypeToAfiSafiEntries));
+const NameTable routingProtocolNames(std::begin(kRoutingProtocolNameEntries),
+                                     std::end(kRoutingProtocolNameEntries));
+const NameTable safiNames(std::begin(kSafiNameEntries), std::end(kSafiNameEntries));
 
-// 4. The identifier table. Order has no effect on behaviour; sorted by id.
+// 4. The identifier table. Order has no effect on behaviour; one block per
+// family, sorted by id within it.
 std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"A", {formatAfAddr, lengthAfAddr}},
     {"AF", {formatAf, lengthAf}},
@@ -51,6 +72,56 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"P6", {formatIp6Prefix, lengthIp6Prefix}},
     {"PG", {formatIpGenPrefix, lengthIpGenPrefix}},
     {"PGO", {formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized}},
+    // BGP codes, RDs and RTs, MPLS labels and FECs, EVPN layer-2 attributes.
+    {"AFI", {static_cast<FormatPtr>(formatAfi), lengthAfi}},
+    {"AFS", {static_cast<FormatPtr>(formatAfiSafi), lengthAfiSafi}},
+    {"EL", {formatEvpnLabel, lengthEvpnLabel}},
+    {"EL2", {formatEvpnL2AttrsV2, lengthEvpnL2Attrs}},
+    {"EL2V3", {formatEvpnL2AttrsV3, lengthEvpnL2Attrs}},
+    {"EL2old", {formatEvpnL2AttrsV1, lengthEvpnL2Attrs}},
+    {"FM", {formatMplsFwdEqvClass, lengthMplsFwdEqvClass}},
+    {"FMO", {formatMplsFwdEqvClassOptimized, lengthMplsFwdEqvClassOptimized}},
+    {"GFID", {formatGlobalFecId, lengthGlobalFecId}},
+    {"LO", {formatMplsLabelOperation, lengthMplsLabelOperation}},
+    {"LVK", {formatLfibViaKey, lengthLfibViaKey}},
+    {"ML", {static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel}},
+    {"MRTR", {formatMplsRouterId, lengthMplsRouterId}},
+    {"NLRI", {static_cast<FormatPtr>(formatNlriType), lengthNlriType}},
+    {"NLRI2AFISAFI", {formatNlriType2AfiSafi, lengthNlriType2AfiSafi}},
+    {"RD", {static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher}},
+    {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
+    {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
+    {"SAFI", {formatSafiLegacy, lengthSafi}},
+    // Tunnel, pseudowire, RIB, IGP node, multicast, CSPF and BFD keys.
+    {"BP", {formatBfdPeer, lengthBfdPeer}},
+    {"BPO", {formatBfdPeerOptimized, lengthBfdPeerOptimized}},
+    {"CCPK", {formatCspfClientPathKey, lengthCspfClientPathKey}},
+    {"CP2MPK", {formatCspfP2mpPathKey, lengthCspfP2mpPathKey}},
+    {"CPK", {formatCspfPathKey, lengthCspfPathKey}},
+    {"CV", {formatCspfVertex, lengthCspfVertex}},
+    {"IGPN", {formatIgpNodeId, lengthIgpNodeId}},
+    {"MF", {formatMRouteFlags, lengthMRouteFlags}},
+    {"MFGK", {formatMfibGenRouteKey, lengthMfibGenRouteKey}},
+    {"MFGKO", {formatMfibGenRouteKeyOptimized, lengthMfibGenRouteKeyOptimized}},
+    {"MFK", {formatMfibRouteKey, lengthMfibRouteKey}},
+    {"MIJ", {formatMRouteIntfJoinState, lengthMRouteIntfJoinState}},
+    {"MIR", {formatMRouteIntfRptJoinState, lengthMRouteIntfRptJoinState}},
+    {"MK", {formatMRouteKey, lengthMRouteKey}},
+    {"MKO", {formatMRouteKeyOptimized, lengthMRouteKeyOptimized}},
+    {"MTT", {formatMulticastTunnelType, lengthMulticastTunnelType}},
+    {"PGKR", {formatIpGenUcastKeyRef, lengthIpGenUcastKeyRef}},
+    {"PGKRO", {formatIpGenUcastKeyRefOptimized, lengthIpGenUcastKeyRefOptimized}},
+    {"PW", {formatPseudowireKey, lengthPseudowireKey}},
+    {"PWO", {formatPseudowireKeyOptimized, lengthPseudowireKeyOptimized}},
+    {"RRRK", {formatRibRouteKey, lengthRibRouteKey}},
+    {"RRRKO", {formatRibRouteKeyOptimized, lengthRibRouteKeyOptimized}},
+    {"RRRP", {formatRoutingProtocol, lengthRoutingProtocol}},
+    {"RVK", {formatRibViaKey, lengthRibViaKey}},
+    {"TK", {formatTunnelKey, lengthTunnelKey}},
+    {"TKG", {formatTunnelKeyGen, lengthTunnelKeyGen}},
+    {"TKGO", {formatTunnelKeyGenOptimized, lengthTunnelKeyGenOptimized}},
+    {"VLAFP", {formatAfProto, lengthAfProto}},
+    {"VLAFPV", {formatAfProtoVrfId, lengthAfProtoVrfId}},
 };
 
 } // namespace Orvane

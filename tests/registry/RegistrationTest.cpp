@@ -19,6 +19,13 @@ const std::set<std::string> kExpectedIds = {
     // address/
     "A", "AF", "AM4", "AM6", "DSFID", "E", "EC", "EM", "ES", "I", "I6", "IG", "IGM", "IGMO",
     "IGO", "IP", "IS", "P", "P6", "PG", "PGO",
+    // bgp/ codes, RDs and RTs, mpls/ labels and FECs, bgp/ EVPN layer-2 attributes
+    "AFI", "AFS", "EL", "EL2", "EL2V3", "EL2old", "FM", "FMO", "GFID", "LO", "LVK", "ML",
+    "MRTR", "NLRI", "NLRI2AFISAFI", "RD", "RT", "RTMRK", "SAFI",
+    // mpls/: tunnel, pseudowire, RIB, IGP node, multicast, CSPF and BFD keys
+    "BP", "BPO", "CCPK", "CP2MPK", "CPK", "CV", "IGPN", "MF", "MFGK", "MFGKO", "MFK", "MIJ",
+    "MIR", "MK", "MKO", "MTT", "PGKR", "PGKRO", "PW", "PWO", "RRRK", "RRRKO", "RRRP", "RVK",
+    "TK", "TKG", "TKGO", "VLAFP", "VLAFPV",
 };
 
 class Registration : public ::testing::Test {
@@ -55,6 +62,20 @@ TEST_F(Registration, AliasesRegisterTheSameFunctions) {
     EXPECT_EQ(*a->format.target<FormatPtr>(), *b->format.target<FormatPtr>()) << alias;
     EXPECT_EQ(*a->length.target<LengthPtr>(), *b->length.target<LengthPtr>()) << alias;
   }
+}
+
+TEST_F(Registration, EvpnL2VersionsShareOnlyTheirLengthFunction) {
+  const auto* v3 = host::findFormatter("EL2V3");
+  const auto* v2 = host::findFormatter("EL2");
+  const auto* v1 = host::findFormatter("EL2old");
+  ASSERT_TRUE(v3 && v2 && v1);
+  const LengthPtr length = *v3->length.target<LengthPtr>();
+  EXPECT_EQ(*v2->length.target<LengthPtr>(), length);
+  EXPECT_EQ(*v1->length.target<LengthPtr>(), length);
+  const std::set<FormatPtr> formats{*v3->format.target<FormatPtr>(),
+                                    *v2->format.target<FormatPtr>(),
+                                    *v1->format.target<FormatPtr>()};
+  EXPECT_EQ(formats.size(), 3u);
 }
 
 TEST_F(Registration, LoadingAgainRegistersNothingNew) {

@@ -1,0 +1,110 @@
+#include "bgp/RouteDistinguisher.h"
+
+#include "address/Ip.h"
+#include "registry/Bytes.h"
+#include "registry/Fields.h"
+#include "registry/HostInterface.h"
+
+#include <cstdint>
+
+namespace Orvane {
+namespace {
+
+// Bits [shift, shift + width) of a 64-bit value.
+uint64_t bits(uint64_t value, unsigned shift, unsigned width) {
+  return (value >> shift) & ((uint64_t{1} << width) - 1);
+}
+
+// A u32 IPv4 address printed as the "I" id prints it, most significant byte first.
+void printIpv4Number(std::ostream& os, uint32_t address) {
+  formatIp(reinterpret_cast<const unsigned char*>(&address), os);
+}
+
+void printUnknownRouteDistinguisher(uint64_t rd, std::ostream& os) {
+  os << "0x";
+  os.setf(std::ios::hex, std::ios::basefield | std::ios::showbase);
+  os.width(16);
+  os.fill('0');
+  os << rd;
+  // Hex and the '0' fill stay set on `os`: what the same record prints next comes out
+  // in hex. Nothing else is restored; in particular std::cout's flags are left alone,
+  // since touching a shared stream would make concurrent calls on separate streams
+  // interfere, and restoring them would have no effect on `os`.
+}
+
+void printUnknownRouteTarget(uint64_t rt, std::ostream& os) {
+  os << "INVALID:0x" << std::hex << std::uppercase << rt << std::dec << std::nouppercase;
+}
+
+// The RT-membership key after its origin AS: the route target, the prefix length, and
+// the target again as 16 upper-case hex digits. The '0' fill stays set.
+unsigned formatMembershipTarget(const unsigned char* p, std::ostream& os) {
+  const uint64_t rt = load<uint64_t>(p);
+  formatRouteTarget(rt, os);
+  os << "/" << static_cast<unsigned>(p[8]) << "; value: 0x" << std::hex << std::uppercase;
+  os.fill('0');
+  os.width(16);
+  os << rt << std::dec << std::nouppercase;
+  return 9;
+}
+
+} // namespace
+
+void formatRouteDistinguisher(unsigned long long rd, std::ostream& os) {
+  switch (bits(rd, 48, 16)) {
+  case 0: {
+    const auto assigned = static_cast<uint32_t>(bits(rd, 0, 32));
+    os << bits(rd, 32, 16) << ":";
+    if (assigned <= 0xFFFFFF)
+      os << assigned;
+    else
+      printIpv4Number(os, assigned);
+    break;
+  }
+  case 1:
+    printIpv4Number(os, static_cast<uint32_t>(bits(rd, 16, 32)));
+    os << ":" << bits(rd, 0, 16);
+    break;
+  case 2:
+    os << bits(rd, 16, 32) << ":" << bits(rd, 0, 16);
+    break;
+  default:
+    printUnknownRouteDistinguisher(rd, os);
+  }
+}
+
+void formatRouteTarget(unsigned long long rt, std::ostream& os) {
+  switch (bits(rt, 56, 8)) {
+  case 0:
+    os << bits(rt, 32, 16) << ":" << bits(rt, 0, 32);
+    break;
+  case 1:
+    os << bits(rt, 40, 8) << "." << bits(rt, 32, 8) << "." << bits(rt, 24, 8) << "."
+       << bits(rt, 16, 8) << ":" << bits(rt, 0, 16);
+    break;
+  case 2:
+    os << bits(rt, 16, 32) << (bits(rt, 32, 16) == 0 ? "L" : "") << ":" << bits(rt, 0, 16);
+    break;
+  default:
+    printUnknownRouteTarget(rt, os);
+  }
+}
+
+unsigned formatRouteDistinguisher(const unsigned char* p, std::ostream& os) {
+  formatRouteDistinguisher(load<uint64_t>(p), os);
+  return lengthRouteDistinguisher(p);
+}
+unsigned lengthRouteDistinguisher(const unsigned char*) { return 8; }
+
+unsigned formatRouteTarget(const unsigned char* p, std::ostream& os) {
+  formatRouteTarget(load<uint64_t>(p), os);
+  return lengthRouteTarget(p);
+}
+unsigned lengthRouteTarget(const unsigned char*) { return 8; }
+
+unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os) {
+  return formatFields(p, os, "origin: ", formatU32, ";", formatMembershipTarget);
+}
+unsigned lengthRtMembershipRouteKey(const unsigned char*) { return 13; }
+
+} // namespace Orvane

@@ -1,0 +1,144 @@
+// libFuzzer target over every registered type id.
+//
+// Input: the first byte selects an id (index into the sorted ids), the rest are the
+// value's bytes. With ORVANE_FUZZ_ID=<id> set, the id is fixed and the whole input is
+// the value (the per-id smoke run uses that).
+//
+// For each input the harness asks the length function L, then:
+//  * L is a real size the input covers: the value is copied into a heap block of exactly
+//    L bytes, so AddressSanitizer reports any read past it by the length or the format
+//    function, and format must return L;
+//  * L is larger than the input: the value is zero-extended to L bytes and tried again
+//    when it still measures L (short inputs then reach whole values quickly);
+//  * L is 0xFFFFFFFF (an impossible encoding): format runs on a zero-padded copy and
+//    must return 0xFFFFFFFF as well.
+// The one sanctioned format/length difference is "LO" with an operation code 4..254.
+//
+// Guard areas. A few layouts read outside their own reported length by design, and only
+// those get bytes around the block that may be read:
+//  * "A": a family-tagged record shorter than its family's layout is read as the layout
+//    says: the numbers at N-8 and N-4 (before the record when N < 8), the address at 4
+//    (up to 20 bytes) and the zone index at 10..13.
+//  * Keys whose count wraps: after a field that reports 0xFFFFFFFF the next field is read
+//    one byte before the value ("CPK", "MFGKO"), and a wrapped total can be smaller than
+//    the bytes the walk examined ("RRRKO", "PGKRO", "FMO", "GRO", "MFGKO", and the BGP
+//    route key wrappers around a link-state prefix with a bad tag or an unknown family).
+// Any other read outside the block is a bug in the formatter.
+#include "registry/FormatMap.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace Orvane;
+
+struct Guard {
+  std::size_t before = 0;
+  std::size_t after = 0;
+};
+
+const std::map<std::string, Guard> kGuards = {
+    {"A", {8, 24}},     {"CPK", {1, 0}},  {"MFGKO", {1, 4}}, {"RRRKO", {0, 4}},
+    {"PGKRO", {0, 4}},  {"FMO", {0, 4}},  {"GRO", {0, 4}},   {"BRK", {0, 16}},
+    {"BRY", {0, 16}},   {"BMPRK", {0, 16}},
+};
+
+struct Target {
+  std::string id;
+  FormatFn format;
+  LengthFn length;
+  Guard guard;
+};
+
+std::vector<Target> collectTargets() {
+  const char* only = std::getenv("ORVANE_FUZZ_ID");
+  std::vector<Target> targets;
+  for (const auto& [id, functions] : formatMap) {
+    if (only && id != only) continue;
+    auto guard = kGuards.find(id);
+    targets.push_back({id, functions.first, functions.second,
+                       guard == kGuards.end() ? Guard{} : guard->second});
+  }
+  std::sort(targets.begin(), targets.end(),
+            [](const Target& a, const Target& b) { return a.id < b.id; });
+  if (targets.empty()) {
+    std::fprintf(stderr, "no registered id matches ORVANE_FUZZ_ID=%s\n", only ? only : "");
+    std::exit(2);
+  }
+  return targets;
+}
+
+const std::vector<Target>& targets() {
+  static const std::vector<Target> all = collectTargets();
+  return all;
+}
+
+bool formatMayDiffer(const Target& t, const unsigned char* value) {
+  return t.id == "LO" && value[1] <= 13 && value[0] >= 4 && value[0] <= 254;
+}
+
+void expectSame(const Target& t, unsigned length, unsigned consumed, const unsigned char* value) {
+  if (consumed == length || formatMayDiffer(t, value)) return;
+  std::fprintf(stderr, "id %s: length function says %u, format function consumed %u\n",
+               t.id.c_str(), length, consumed);
+  std::abort();
+}
+
+// The value in a heap block of exactly `length` bytes plus its id's guard areas.
+void formatExact(const Target& t, const unsigned char* bytes, unsigned length) {
+  const std::size_t size = t.guard.before + length + t.guard.after;
+  std::unique_ptr<unsigned char[]> block(new unsigned char[size ? size : 1]());
+  unsigned char* value = block.get() + t.guard.before;
+  std::memcpy(value, bytes, length);
+
+  if (t.length(value) != length) {
+    std::fprintf(stderr, "id %s: length changed when the value moved\n", t.id.c_str());
+    std::abort();
+  }
+  std::ostringstream os;
+  expectSame(t, length, t.format(value, os), value);
+}
+
+// An impossible encoding: the layout decides what is read, so pad generously.
+void formatInvalid(const Target& t, const std::vector<unsigned char>& padded, std::size_t at) {
+  std::ostringstream os;
+  const unsigned char* value = padded.data() + at;
+  expectSame(t, kInvalidLength, t.format(value, os), value);
+}
+
+constexpr std::size_t kPadBefore = 64, kPadAfter = 8192;
+// Longest zero extension tried for an input shorter than its length.
+constexpr unsigned kMaxExtended = 4096;
+
+void fuzzOne(const Target& t, const unsigned char* data, std::size_t size) {
+  std::vector<unsigned char> padded(kPadBefore + size + kPadAfter, 0);
+  std::memcpy(padded.data() + kPadBefore, data, size);
+  const unsigned char* value = padded.data() + kPadBefore;
+  const unsigned length = t.length(value);
+
+  if (length == kInvalidLength)
+    formatInvalid(t, padded, kPadBefore);
+  else if (length <= std::max<std::size_t>(size, kMaxExtended))
+    formatExact(t, value, length); // zero-extended when the input is shorter
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
+  const auto& all = targets();
+  if (all.size() == 1) {
+    fuzzOne(all.front(), data, size);
+  } else if (size > 0) {
+    fuzzOne(all[data[0] % all.size()], data + 1, size - 1);
+  }
+  return 0;
+}

@@ -1,0 +1,44 @@
+#!/usr/bin/env python3
+"""Writes a seed corpus for the formatter fuzzer from the project's test vectors.
+
+Vectors are the "ID HEX..." lines of examples/demo.txt and the {"ID", "hex", ...}
+cases of the tests. Writes OUT/<ID>/<n> (the value alone, for ORVANE_FUZZ_ID runs) and
+OUT/all/<ID>-<n> (the id's index among the sorted demo ids, then the value).
+"""
+import pathlib
+import re
+import sys
+
+CASE = re.compile(r'\{"([A-Za-z0-9]+)",\s*"([0-9a-fA-F :]*)"')
+
+
+def vectors(demo, tests_dir):
+    for line in demo.read_text().splitlines():
+        words = line.split()
+        if words and not line.startswith("#"):
+            yield words[0], "".join(words[1:])
+    for source in sorted(tests_dir.rglob("*.cpp")):
+        for match in CASE.finditer(source.read_text()):
+            yield match.group(1), match.group(2)
+
+
+def main():
+    out, demo, tests_dir = (pathlib.Path(a) for a in sys.argv[1:4])
+    ids = sorted({line.split()[0] for line in demo.read_text().splitlines()
+                  if line.strip() and not line.startswith("#")})
+    index = {name: i for i, name in enumerate(ids)}
+    (out / "all").mkdir(parents=True, exist_ok=True)
+    counts = {}
+    for name, hex_text in vectors(demo, tests_dir):
+        digits = hex_text.replace(":", "").replace(" ", "")
+        if name not in index or len(digits) % 2:
+            continue
+        value = bytes.fromhex(digits)
+        n = counts[name] = counts.get(name, 0) + 1
+        (out / name).mkdir(exist_ok=True)
+        (out / name / str(n)).write_bytes(value)
+        (out / "all" / f"{name}-{n}").write_bytes(bytes([index[name]]) + value)
+
+
+if __name__ == "__main__":
+    main()

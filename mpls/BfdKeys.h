@@ -1,0 +1,24 @@
+// BFD peer keys: ids "BP" and "BPO".
+//
+// Fields in order, each at the running offset: peer address, VRF name (host string),
+// source address, interface name (host string), u64 tunnel id, u32 type. "BP" holds
+// 21-byte generic addresses, "BPO" Opt ones (5, 17 or 1 bytes by tag); both print the
+// same text. An unknown address tag prints "unknown" and the rest of the key follows.
+#pragma once
+
+#include <ostream>
+
+namespace Orvane {
+
+/// "BP": "peer(ip:" ip ", vrf:" vrf ", srcip:" srcip ", intf:" intf ", tunnelId:" u64
+/// ", type:" u32 ")". Returns the six fields' counts added.
+unsigned formatBfdPeer(const unsigned char* p, std::ostream& os);
+/// 21 + lengthString + 21 + lengthString + lengthU64 + lengthU32, each at its offset.
+unsigned lengthBfdPeer(const unsigned char* p);
+
+/// "BPO": as "BP" with Opt addresses.
+unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os);
+/// As lengthBfdPeer with the two addresses sized by their tags.
+unsigned lengthBfdPeerOptimized(const unsigned char* p);
+
+} // namespace Orvane

@@ -1,0 +1,109 @@
+#include "mpls/Label.h"
+
+#include "address/Ip.h"
+#include "address/SystemId.h"
+#include "registry/Bytes.h"
+#include "registry/Fields.h"
+#include "registry/Formatter.h"
+#include "registry/HostInterface.h"
+
+#include <cstdint>
+#include <iterator>
+
+namespace Orvane {
+namespace {
+
+constexpr unsigned kImplicitNullLabel = 3;
+constexpr unsigned kNoLabel = 0x100000; // one past the 20-bit label range
+constexpr unsigned kMaxStackLabels = 13;
+constexpr unsigned kSystemIdRouterKind = 3;
+
+// The operation's name, or null for a code that makes the value invalid.
+const char* labelOperationName(unsigned char code) {
+  static constexpr const char* kNames[] = {"push", "pop", "swap", "forward"};
+  if (code < std::size(kNames)) return kNames[code];
+  return code == 255 ? "unknown" : nullptr;
+}
+
+void printEvpnLabelWord(uint32_t word, std::ostream& os) {
+  const unsigned value = word & 0xFFFFFF;
+  switch (word >> 24) {
+  case 0:
+    os << "NotPresent";
+    break;
+  case 1:
+    os << "VNI:" << value;
+    break;
+  case 2:
+    os << "MplsLabel:" << (value >> 4);
+    break;
+  default:
+    os << "UnsupportedType:" << value;
+  }
+}
+
+} // namespace
+
+std::ostream& formatMplsLabel(unsigned int label, std::ostream& os) {
+  if (label == kImplicitNullLabel) return os << "ImplicitNull";
+  if (label == kNoLabel) return os << "Null";
+  return os << label;
+}
+
+unsigned formatMplsLabel(const unsigned char* p, std::ostream& os) {
+  os << "MplsLabel(";
+  formatMplsLabel(load<uint32_t>(p), os) << ")";
+  return lengthMplsLabel(p);
+}
+unsigned lengthMplsLabel(const unsigned char*) { return 4; }
+
+unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os) {
+  const unsigned count = p[1];
+  if (count > kMaxStackLabels) return kInvalidLength;
+  const char* operation = labelOperationName(p[0]);
+  if (!operation) return kInvalidLength;
+  os << operation << "[";
+  for (unsigned i = 0; i < count; ++i)
+    formatMplsLabel(load<uint32_t>(p + 2 + 4 * i), i ? os << ", " : os);
+  os << "]";
+  return lengthMplsLabelOperation(p);
+}
+unsigned lengthMplsLabelOperation(const unsigned char* p) {
+  const unsigned count = p[1];
+  return count > kMaxStackLabels ? kInvalidLength : 2 + 4 * count;
+}
+
+unsigned formatEvpnLabel(const unsigned char* p, std::ostream& os) {
+  printEvpnLabelWord(load<uint32_t>(p), os);
+  return lengthEvpnLabel(p);
+}
+unsigned lengthEvpnLabel(const unsigned char*) { return 4; }
+
+unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os) {
+  if (p[0] == kSystemIdRouterKind) {
+    formatIsisSystemId(p + 1, os);
+  } else {
+    printIpv4Bytes(os, p + 1);
+    os << ":" << static_cast<unsigned>(p[5] << 8 | p[6]);
+  }
+  return lengthMplsRouterId(p);
+}
+unsigned lengthMplsRouterId(const unsigned char*) { return 7; }
+
+// The tableId printed is the fecId's low 16 bits (both fields read at p); the stored
+// tableId is skipped. That is the established output.
+unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os) {
+  os << "fecId: ";
+  formatU64(p, os);
+  os << ", tableId: ";
+  formatU16(p, os);
+  return lengthGlobalFecId(p);
+}
+unsigned lengthGlobalFecId(const unsigned char*) { return 10; }
+
+unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os) {
+  return formatFields(p, os, "(", formatU8, ",", formatU32, ",", formatU8, ")");
+}
+unsigned lengthLfibViaKey(const unsigned char*) { return 6; }
+
+} // namespace Orvane

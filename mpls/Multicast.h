@@ -1,0 +1,80 @@
+// Multicast route keys, flags, join states and tunnel types: ids "MK", "MKO", "MF",
+// "MIJ", "MIR", "MFK", "MFGK", "MFGKO", "MTT".
+//
+// The "O" forms hold Opt generic addresses or Optimized generic prefixes and print the
+// same text as the plain forms. The second address or prefix starts where the first
+// ends, unchecked: after an Optimized prefix with an unknown tag (size 0xFFFFFFFF) the
+// second one is read one byte before the value, and the wrapped total is the result.
+#pragma once
+
+#include "registry/NameTable.h"
+
+#include <ostream>
+#include <utility>
+
+namespace Orvane {
+
+/// The flag letters of "MF": letter i names flag byte i. Initially "RWSJTBKZNMACO".
+/// Writable and exported: both "MF" functions read it at every call, so replacing it
+/// changes the letters and the encoded size of every later value. The library itself
+/// never writes it.
+extern const char* mRouteFlags;
+
+/// Contents of the multicast tunnel type name table.
+inline constexpr std::pair<unsigned, const char*> kMulticastTunnelTypeNameEntries[] = {
+    {0, "tunnelTypePimSm"}, {1, "tunnelTypePimSsm"}, {2, "tunnelTypePimBidir"}};
+
+/// Multicast tunnel type names by code; built at load time (KaMessageFormatter.cpp).
+extern const NameTable multicastTunnelTypeNames;
+
+/// "MK": "(" generic address ", " generic address ")". Returns 42.
+unsigned formatMRouteKey(const unsigned char* p, std::ostream& os);
+/// 42.
+unsigned lengthMRouteKey(const unsigned char* p);
+
+/// "MKO": as "MK" with Opt addresses.
+unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os);
+/// The two Opt address sizes (5, 17 or 1 each) added.
+unsigned lengthMRouteKeyOptimized(const unsigned char* p);
+
+/// "MF": one byte per letter of mRouteFlags; prints the letters of the non-zero bytes
+/// in order, then "E" when bytes 1 and 2 (W and S) are both zero: no flag set prints
+/// "E", R, S and J set print "RSJ". The string is re-read and re-measured at every step.
+/// Returns the length of the string mRouteFlags points at.
+unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os);
+/// The length of the string mRouteFlags points at (13 initially).
+unsigned lengthMRouteFlags(const unsigned char* p);
+
+/// "MIJ": u32 join state: 0 "noInfo", 1 "prunePending", any other "joined". Returns 4.
+unsigned formatMRouteIntfJoinState(const unsigned char* p, std::ostream& os);
+/// 4.
+unsigned lengthMRouteIntfJoinState(const unsigned char* p);
+
+/// "MIR": u32 RPT join state: 0 "rptNoInfo", 1 "rptPruned", any other
+/// "rptPrunePending". Returns 4.
+unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os);
+/// 4.
+unsigned lengthMRouteIntfRptJoinState(const unsigned char* p);
+
+/// "MFK": "(" IPv4 "/" u8 ", " IPv4 "/" u8 ")", the lengths in decimal:
+/// (10.0.0.1/32, 239.1.1.1/32). Returns 10.
+unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os);
+/// 10.
+unsigned lengthMfibRouteKey(const unsigned char* p);
+
+/// "MFGK": "(" generic prefix ", " generic prefix ")". Returns 36.
+unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os);
+/// 36.
+unsigned lengthMfibGenRouteKey(const unsigned char* p);
+
+/// "MFGKO": as "MFGK" with Optimized prefixes.
+unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os);
+/// The two Optimized prefix sizes added, in wrapping 32-bit arithmetic.
+unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p);
+
+/// "MTT": the tunnel type's name, or the code in decimal when it has none. Returns 1.
+unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os);
+/// 1.
+unsigned lengthMulticastTunnelType(const unsigned char* p);
+
+} // namespace Orvane

@@ -1,0 +1,82 @@
+// RIB route and via keys, routing protocols and unicast key references: ids "RRRK",
+// "RRRKO", "RVK", "RRRP", "VLAFP", "VLAFPV", "PGKR", "PGKRO".
+//
+// The "O" forms hold an Optimized generic prefix where the plain forms hold the 18-byte
+// generic prefix; both print the same text. An Optimized prefix with an unknown tag
+// measures 0xFFFFFFFF, so the key's size wraps to the leading integer's width minus one
+// (3 for "RRRKO", 1 for "PGKRO"); that wrapped size is the result, not an error.
+#pragma once
+
+#include "registry/NameTable.h"
+
+#include <ostream>
+#include <utility>
+
+namespace Orvane {
+
+/// Contents of the routing-protocol name table.
+inline constexpr std::pair<unsigned, const char*> kRoutingProtocolNameEntries[] = {
+    {0, "reserved"},
+    {1, "connected"},
+    {2, "staticConfig"},
+    {3, "bgp"},
+    {4, "routeInput"},
+    {5, "ospf"},
+    {6, "ospf3"},
+    {7, "isis"},
+    {8, "dynamicPolicy"},
+    {9, "vrfLeak"},
+    {10, "rip"},
+    {11, "staticRouteCacheConfig"},
+    {12, "gribi"},
+    {13, "cbf"},
+    {14, "routeInputRouteCacheConfig"},
+};
+
+/// Routing-protocol names by code; built at load time (KaMessageFormatter.cpp).
+extern const NameTable routingProtocolNames;
+
+/// "RRRK": "(" u32 ", " generic prefix ")". Returns the two fields' counts added.
+unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os);
+/// lengthU32 + 18.
+unsigned lengthRibRouteKey(const unsigned char* p);
+
+/// "RRRKO": as "RRRK" with an Optimized prefix.
+unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os);
+/// lengthU32 + the Optimized prefix size (wraps to 3 for an unknown prefix tag).
+unsigned lengthRibRouteKeyOptimized(const unsigned char* p);
+
+/// "RVK": "(id:" u64 ", vrfId:" u32 ", proto:" protocol ")". Returns the u64 and u32
+/// counts + 1.
+unsigned formatRibViaKey(const unsigned char* p, std::ostream& os);
+/// lengthU64 + lengthU32 + 1.
+unsigned lengthRibViaKey(const unsigned char* p);
+
+/// "RRRP": the protocol's name, or the code in decimal when it has none. Returns 1.
+unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os);
+/// 1.
+unsigned lengthRoutingProtocol(const unsigned char* p);
+
+/// "VLAFP": "(" address family "," protocol ")", each a name or the code in decimal.
+/// Returns 2.
+unsigned formatAfProto(const unsigned char* p, std::ostream& os);
+/// 2.
+unsigned lengthAfProto(const unsigned char* p);
+
+/// "VLAFPV": "(" address family "," protocol "," u32 vrfId ")". Returns 2 + the u32
+/// count.
+unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os);
+/// 2 + lengthU32.
+unsigned lengthAfProtoVrfId(const unsigned char* p);
+
+/// "PGKR": "vrf:" u16 ", ipAddr:" generic prefix. Returns the two counts added.
+unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os);
+/// lengthU16 + 18.
+unsigned lengthIpGenUcastKeyRef(const unsigned char* p);
+
+/// "PGKRO": as "PGKR" with an Optimized prefix.
+unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os);
+/// lengthU16 + the Optimized prefix size (wraps to 1 for an unknown prefix tag).
+unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p);
+
+} // namespace Orvane
