@@ -22,8 +22,8 @@ CATEGORIES = [
     ("route key", 30, ["BRK", "BRY", "BMPRK"]),
     ("address", 20, ["I", "I6", "IG", "IGO", "A", "IP"]),
     ("prefix", 20, ["P", "P6", "AM4", "AM6", "PG", "PGO"]),
-    ("label, FEC", 5, ["ML", "LO", "EL", "FM", "FMO", "LVK", "GFID"]),
-    ("RIB, RD, RT", 5, ["RRRK", "RRRKO", "RVK", "RD", "RT", "AFS", "NLRI"]),
+    ("label/FEC", 5, ["ML", "LO", "EL", "FM", "FMO", "LVK", "GFID"]),
+    ("RIB/RD/RT", 5, ["RRRK", "RRRKO", "RVK", "RD", "RT", "AFS", "NLRI"]),
     ("MAC", 5, ["E", "EC"]),
 ]
 OTHER = ("other", 1)

@@ -31,13 +31,21 @@ def short_name(function):
     return name.replace("{anon}", "(anon)").replace("{below main}", "(below main)")[:90]
 
 
+NUMERIC = re.compile(r"^[\d.,]+ ?[xM%]?$")
+
+
+def cell_text(cell):
+    if isinstance(cell, float):
+        return f"{cell:,.1f}"
+    return f"{cell:,}" if isinstance(cell, int) else str(cell)
+
+
 def table(header, rows):
-    """A Markdown table; numbers right-aligned."""
-    align = ["---:" if rows and isinstance(cell, (int, float)) else "---" for cell in rows[0]]
+    """A Markdown table; columns of numbers right-aligned."""
+    align = ["---:" if all(NUMERIC.match(cell_text(row[i])) for row in rows) else "---"
+             for i in range(len(header))]
     lines = ["| " + " | ".join(header) + " |", "| " + " | ".join(align) + " |"]
-    lines += ["| " + " | ".join(f"{cell:,.1f}" if isinstance(cell, float) else f"{cell:,}"
-                                if isinstance(cell, int) else str(cell) for cell in row) + " |"
-              for row in rows]
+    lines += ["| " + " | ".join(cell_text(cell) for cell in row) + " |" for row in rows]
     return "\n".join(lines)
 
 
@@ -111,11 +119,12 @@ def mixed_block(results):
 
 
 def profile_rows(rows, limit):
-    """Inclusive rows below the whole program, leaving out the wrappers: a row whose
-    share is within a hair of the row above it adds nothing."""
+    """Inclusive rows below the whole program, leaving out the wrappers (a row whose
+    share is within a hair of the row above it adds nothing) and unnamed code."""
     kept = []
     for _, percent, name in rows:
-        if percent < 99.0 and (not kept or kept[-1][1] - percent > 0.3):
+        whole = percent >= 95.0 or name.startswith(("(below main)", "0x"))
+        if not whole and (not kept or kept[-1][1] - percent > 0.3):
             kept.append((short_name(name), percent))
     return [(name, f"{percent:.1f}%") for name, percent in kept[:limit]]
 
@@ -142,6 +151,9 @@ def ovfmt_block(results):
                   table(["Library", "Function", "Self"],
                         [(dso, short_name(name), f"{percent:.1f}%")
                          for percent, dso, name in o["perf"][:14]])]
+    else:
+        lines += ["", "(perf could not sample on this machine, so there is no time profile: "
+                  "install linux-perf, or allow sampling with kernel.perf_event_paranoid.)"]
     return "\n".join(lines)
 
 
