@@ -93,12 +93,14 @@ void expectSame(const Target& t, unsigned length, unsigned consumed, const unsig
   std::abort();
 }
 
-// The value in a heap block of exactly `length` bytes plus its id's guard areas.
+// The value in a heap block of exactly `length` bytes plus its id's guard areas. The
+// guard after the value holds the bytes that followed it, as in a trace buffer: a
+// wrapped length can be decided by bytes past it.
 void formatExact(const Target& t, const unsigned char* bytes, unsigned length) {
   const std::size_t size = t.guard.before + length + t.guard.after;
   std::unique_ptr<unsigned char[]> block(new unsigned char[size ? size : 1]());
   unsigned char* value = block.get() + t.guard.before;
-  std::memcpy(value, bytes, length);
+  std::memcpy(value, bytes, length + t.guard.after);
 
   if (t.length(value) != length) {
     std::fprintf(stderr, "id %s: length changed when the value moved\n", t.id.c_str());
