@@ -20,7 +20,10 @@
 #include "address/SystemId.h"
 #include "bgp/AfiSafi.h"
 #include "bgp/EvpnL2Attrs.h"
+#include "bgp/NextHop.h"
+#include "bgp/PeerKeys.h"
 #include "bgp/RouteDistinguisher.h"
+#include "bgp/RouteKeyWrappers.h"
 #include "mpls/Fec.h"
 #include "mpls/Label.h"
 #include "registry/FormatMap.h"
@@ -32,6 +35,8 @@ namespace Orvane {
 // 3. Code-to-name tables, in load order.
 const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
                                    std::end(kAddressFamilyNameEntries));
+const NameTable adjRibinTypeNames(std::begin(kAdjRibinTypeNameEntries),
+                                  std::end(kAdjRibinTypeNameEntries));
 const NameTable afiNames(std::begin(kAfiNameEntries), std::end(kAfiNameEntries));
 const NameTable nlriTypeNames(std::begin(kNlriTypeNameEntries), std::end(kNlriTypeNameEntries));
 const std::unordered_map<unsigned, AfiSafi>
@@ -81,6 +86,13 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
     {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
     {"SAFI", {formatSafiLegacy, lengthSafi}},
+    // BGP next hop, route keys, peer keys, BMP route keys and adj-RIB-in types.
+    {"BMPRK", {formatBmpRouteKey, lengthBmpRouteKey}},
+    {"BNH", {formatBgpGenNextHop, lengthBgpGenNextHop}},
+    {"BPK", {formatBgpPeerKey, lengthBgpPeerKey}},
+    {"BRK", {formatBgpRouteKeyOld, lengthBgpRouteKeyOld}},
+    {"BRY", {formatBgpRouteKeyNew, lengthBgpRouteKeyNew}},
+    {"RIBINT", {formatAdjRibinType, lengthAdjRibinType}},
 };
 
 } // namespace Orvane

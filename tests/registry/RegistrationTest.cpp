@@ -22,6 +22,8 @@ const std::set<std::string> kExpectedIds = {
     // bgp/ codes, RDs and RTs, mpls/ labels and FECs, bgp/ EVPN layer-2 attributes
     "AFI", "AFS", "EL", "EL2", "EL2V3", "EL2old", "FM", "FMO", "GFID", "LO", "LVK", "ML",
     "MRTR", "NLRI", "NLRI2AFISAFI", "RD", "RT", "RTMRK", "SAFI",
+    // bgp/ next hop, route keys, peer keys, BMP route keys, adj-RIB-in types
+    "BMPRK", "BNH", "BPK", "BRK", "BRY", "RIBINT",
 };
 
 class Registration : public ::testing::Test {
