@@ -20,7 +20,10 @@
 #include "address/SystemId.h"
 #include "bgp/AfiSafi.h"
 #include "bgp/EvpnL2Attrs.h"
+#include "bgp/NextHop.h"
+#include "bgp/PeerKeys.h"
 #include "bgp/RouteDistinguisher.h"
+#include "bgp/RouteKeyWrappers.h"
 #include "mpls/BfdKeys.h"
 #include "mpls/CspfKeys.h"
 #include "mpls/Fec.h"
@@ -38,6 +41,8 @@ namespace Orvane {
 // 3. Code-to-name tables, in load order.
 const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
                                    std::end(kAddressFamilyNameEntries));
+const NameTable adjRibinTypeNames(std::begin(kAdjRibinTypeNameEntries),
+                                  std::end(kAdjRibinTypeNameEntries));
 const NameTable afiNames(std::begin(kAfiNameEntries), std::end(kAfiNameEntries));
 const NameTable multicastTunnelTypeNames(std::begin(kMulticastTunnelTypeNameEntries),
                                          std::end(kMulticastTunnelTypeNameEntries));
@@ -122,6 +127,13 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"TKGO", {formatTunnelKeyGenOptimized, lengthTunnelKeyGenOptimized}},
     {"VLAFP", {formatAfProto, lengthAfProto}},
     {"VLAFPV", {formatAfProtoVrfId, lengthAfProtoVrfId}},
+    // BGP next hop, route keys, peer keys, BMP route keys and adj-RIB-in types.
+    {"BMPRK", {formatBmpRouteKey, lengthBmpRouteKey}},
+    {"BNH", {formatBgpGenNextHop, lengthBgpGenNextHop}},
+    {"BPK", {formatBgpPeerKey, lengthBgpPeerKey}},
+    {"BRK", {formatBgpRouteKeyOld, lengthBgpRouteKeyOld}},
+    {"BRY", {formatBgpRouteKeyNew, lengthBgpRouteKeyNew}},
+    {"RIBINT", {formatAdjRibinType, lengthAdjRibinType}},
 };
 
 } // namespace Orvane

@@ -26,6 +26,8 @@ const std::set<std::string> kExpectedIds = {
     "BP", "BPO", "CCPK", "CP2MPK", "CPK", "CV", "IGPN", "MF", "MFGK", "MFGKO", "MFK", "MIJ",
     "MIR", "MK", "MKO", "MTT", "PGKR", "PGKRO", "PW", "PWO", "RRRK", "RRRKO", "RRRP", "RVK",
     "TK", "TKG", "TKGO", "VLAFP", "VLAFPV",
+    // bgp/ next hop, route keys, peer keys, BMP route keys, adj-RIB-in types
+    "BMPRK", "BNH", "BPK", "BRK", "BRY", "RIBINT",
 };
 
 class Registration : public ::testing::Test {

@@ -1,0 +1,71 @@
+// Composite BGP values described as data.
+//
+// The next hop, the route keys and the peer keys each have many variants that differ
+// only in which fields follow one another and which text goes between them. Each
+// variant is written as a FieldLayout: up to six labelled fields and a closing text.
+// One walker prints a layout and one measures it; both start at the same offset and
+// advance by the same per-field counts, so the text and the size of a value can never
+// disagree.
+//
+//   constexpr FieldLayout kRouterMac{{{"<ip:", kIp4Field}, {", routerMac:", kMacField}}, ">"};
+//   formatLayout(kRouterMac, p, 6, os); // <ip:10.0.0.1, routerMac:001c.73aa.bbcc>, returns 16
+#pragma once
+
+#include "address/Ethernet.h"
+#include "address/GenericAddress.h"
+#include "address/Ip.h"
+#include "registry/Formatter.h"
+#include "registry/HostInterface.h"
+
+#include <cstddef>
+#include <ostream>
+
+namespace Orvane {
+
+/// How one field is printed and sized: a format function and its length function.
+struct FieldKind {
+  FormatPtr format = nullptr;
+  LengthPtr length = nullptr;
+};
+
+/// A field and the literal text printed just before it.
+struct LabeledField {
+  const char* label = nullptr;
+  FieldKind kind;
+};
+
+/// The most fields any layout has.
+inline constexpr std::size_t kMaxLayoutFields = 6;
+
+/// A value's fields in order, then the text printed after the last one. Entries after
+/// the last field are left empty (no kind); a layout without fields prints only its
+/// closing text.
+struct FieldLayout {
+  LabeledField fields[kMaxLayoutFields] = {};
+  const char* closing = "";
+};
+
+/// Prints each field's label and then the field at the running offset, which begins at
+/// `start` and advances by what each field's formatter returns; then the closing text.
+/// Returns the final offset (sums wrap; see Bytes.h for where a wrapped offset points).
+unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigned start,
+                      std::ostream& os);
+
+/// The final offset of the same walk as formatLayout, printing nothing.
+unsigned measureLayout(const FieldLayout& layout, const unsigned char* p, unsigned start);
+
+// Field kinds shared by the BGP composites.
+inline constexpr FieldKind kIp4Field{formatIp, lengthIp};           ///< native u32 IPv4
+inline constexpr FieldKind kIp6Field{formatIp6Addr, lengthIp6Addr}; ///< 16 raw bytes
+inline constexpr FieldKind kMacField{formatEth, lengthEth};         ///< 001c.73aa.bbcc
+inline constexpr FieldKind kEsiField{formatEthSegment, lengthEthSegment};
+inline constexpr FieldKind kGenAddrField{formatIpGenAddr, lengthIpGenAddr}; ///< 21 bytes
+inline constexpr FieldKind kGenAddrOptField{formatIpGenAddrOpt, lengthIpGenAddrOpt};
+inline constexpr FieldKind kU8Field{formatU8, lengthU8};
+inline constexpr FieldKind kU16Field{formatU16, lengthU16};
+inline constexpr FieldKind kU32Field{formatU32, lengthU32};
+inline constexpr FieldKind kU64Field{formatU64, lengthU64};
+inline constexpr FieldKind kBoolField{formatBool, lengthBool}; ///< "True" / "False"
+inline constexpr FieldKind kStringField{formatString, lengthString};
+
+} // namespace Orvane

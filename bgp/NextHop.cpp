@@ -1,0 +1,139 @@
+#include "bgp/NextHop.h"
+
+#include "bgp/EvpnL2Attrs.h"
+#include "bgp/FieldLayout.h"
+#include "mpls/Label.h"
+#include "registry/Bytes.h"
+#include "registry/Fields.h"
+
+#include <cstdint>
+#include <iterator>
+
+namespace Orvane {
+namespace {
+
+constexpr unsigned kTypeOffset = 5;
+constexpr unsigned kBodyOffset = 6;
+
+// An IPv6 SID and its length byte: address "/" length, 17 bytes.
+unsigned formatSid(const unsigned char* p, std::ostream& os) {
+  return formatFields(p, os, formatIp6Addr, "/", formatU8);
+}
+unsigned lengthSid(const unsigned char* p) { return measureFields(p, lengthIp6Addr, lengthU8); }
+
+constexpr FieldKind kEvpnLabelField{formatEvpnLabel, lengthEvpnLabel};
+constexpr FieldKind kMplsLabelField{static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel};
+constexpr FieldKind kSidField{formatSid, lengthSid};
+
+// Fields that several next-hop types share.
+constexpr LabeledField kIp4{"<ip:", kIp4Field}, kIp6{"<ip:", kIp6Field};
+constexpr LabeledField kIpv6{"<ipv6:", kIp6Field};
+constexpr LabeledField kLabel{", label:", kEvpnLabelField};
+constexpr LabeledField kLabel2{", label2:", kEvpnLabelField};
+constexpr LabeledField kL3Label{", l3Label:", kEvpnLabelField};
+constexpr LabeledField kL3Label2{", l3Label2:", kEvpnLabelField};
+constexpr LabeledField kRouterMac{", routerMac:", kMacField};
+constexpr LabeledField kEsi{", esi:", kEsiField};
+constexpr LabeledField kMcastFlags{", mcastFlags:", kU8Field};
+constexpr LabeledField kMaxResponseTime{", maxResponseTime:", kU8Field};
+constexpr LabeledField kRemoteDomain{", remoteDomain:", kBoolField};
+constexpr LabeledField kNdProxyFlag{", ndProxyFlag:", kBoolField};
+constexpr LabeledField kVbs{", vbs:", kU16Field};
+constexpr LabeledField kLabelBase{", labelBase:", kMplsLabelField};
+constexpr LabeledField kL3Sid{", l3Sid:", kSidField};
+constexpr LabeledField kEtreeLeafLabel{", etreeLeafLabel:", kEvpnLabelField};
+// Layer-2 attributes print their own leading separator.
+constexpr LabeledField kL2AttrsV1{"", {formatEvpnL2AttrsV1, lengthEvpnL2Attrs}};
+constexpr LabeledField kL2AttrsV2{"", {formatEvpnL2AttrsV2, lengthEvpnL2Attrs}};
+constexpr LabeledField kL2AttrsV3{"", {formatEvpnL2AttrsV3, lengthEvpnL2Attrs}};
+
+// The EVPN next hop of type 5, which types 12, 17, 30 and 32 extend.
+constexpr FieldLayout evpnNextHop(LabeledField attrs = {}, LabeledField last = {}) {
+  return {{kIp4,
+           kLabel,
+           {", singleActive:", kBoolField},
+           {", esiLabel:", kEvpnLabelField},
+           attrs,
+           last},
+          ">"};
+}
+
+// Types 20 and 21: an address with the remote and the local router MAC and labels.
+constexpr FieldLayout routerMacsNextHop(LabeledField ip) {
+  return {{ip,
+           kL3Label,
+           kRouterMac,
+           {", localL3Label:", kEvpnLabelField},
+           {", localRouterMac:", kMacField},
+           {", localL3Label2:", kEvpnLabelField}},
+          ">"};
+}
+
+constexpr FieldLayout kNullNextHop{{}, "NULL"};
+
+// Indexed by next-hop type.
+constexpr FieldLayout kNextHopLayouts[] = {
+    /* 0 */ kNullNextHop,
+    /* 1 */ {{{"", kIp4Field}}},
+    /* 2 */ {{{"", kIp6Field}}},
+    /* 3 */ {{kIp4, kRouterMac}, ">"},
+    /* 4 */ {{kIp6, kRouterMac}, ">"},
+    /* 5 */ evpnNextHop(),
+    /* 6 */ {{kIp4, kEsi, kLabel, kLabel2}, ">"},
+    /* 7 */ {{kIpv6, {", label:", kMplsLabelField}}, ">"},
+    /* 8 */ {{kIp4, {", label:", kU32Field}}, ">"},
+    /* 9 */ {{kIpv6, {", label:", kU32Field}}, ">"},
+    /* 10 */ {{{"", kIp6Field}, {"%", kStringField}}},
+    /* 11 */ {{kIp4, kEsi, kLabel, kLabel2, kNdProxyFlag}, ">"},
+    /* 12 */ evpnNextHop(kL2AttrsV1),
+    /* 13 */ {{kIp4, kMcastFlags}, ">"},
+    /* 14 */ {{kIp6, kMcastFlags}, ">"},
+    /* 15 */ {{kIp4, kMcastFlags, kMaxResponseTime}, ">"},
+    /* 16 */ {{kIp6, kMcastFlags, kMaxResponseTime}, ">"},
+    /* 17 */ evpnNextHop(kL2AttrsV2),
+    /* 18 */ {{kIp4, kRemoteDomain}, ">"},
+    /* 19 */ {{{"<l3Label:", kEvpnLabelField}, kRouterMac, kL3Label2}, ">"},
+    /* 20 */ routerMacsNextHop(kIp4),
+    /* 21 */ routerMacsNextHop(kIp6),
+    /* 22 */ {{{"", kGenAddrField}}},
+    /* 23 */
+    {{{"<esi:", kEsiField}, kLabel, kL3Label, kLabel2, kL3Label2, kNdProxyFlag}, ">"},
+    /* 24 */ {{{"<label:", kEvpnLabelField}, kLabel2}, ">"},
+    /* 25 */ {{{"<l3Label:", kEvpnLabelField}, kRouterMac, kL3Label2, kL3Sid}, ">"},
+    /* 26 */ {{kIpv6, kL3Sid}, ">"},
+    /* 27 */ {{{"<ip:", kGenAddrField}, kVbs, kLabelBase}, ">"},
+    /* 28 */ {{{"", kGenAddrOptField}}},
+    /* 29 */ {{{"<ip:", kGenAddrOptField}, kVbs, kLabelBase}, ">"},
+    /* 30 */ evpnNextHop(kL2AttrsV2, kEtreeLeafLabel),
+    /* 31 */ {{kIp4, kRemoteDomain, kL2AttrsV3}, ">"},
+    /* 32 */ evpnNextHop(kL2AttrsV3, kEtreeLeafLabel),
+};
+
+const FieldLayout& nextHopLayout(const unsigned char* p) {
+  const unsigned type = p[kTypeOffset];
+  return type < std::size(kNextHopLayouts) ? kNextHopLayouts[type] : kNullNextHop;
+}
+
+const char* vrfKindName(unsigned char kind) {
+  static constexpr const char* kNames[] = {"L2", "L3", "SBD", "VPLS"};
+  return kind < std::size(kNames) ? kNames[kind] : "unknown";
+}
+
+} // namespace
+
+std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os) {
+  return os << vrfKindName(p[0]) << "-vrfId:" << load<uint32_t>(p + 1);
+}
+
+unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
+  const unsigned count = formatLayout(nextHopLayout(p), p, kBodyOffset, os);
+  os << " (";
+  formatBgpVrfIdForRkAndNh(p, os) << ")";
+  return count;
+}
+
+unsigned lengthBgpGenNextHop(const unsigned char* p) {
+  return measureLayout(nextHopLayout(p), p, kBodyOffset);
+}
+
+} // namespace Orvane

@@ -1,0 +1,71 @@
+#include "bgp/PeerKeys.h"
+
+#include "bgp/FieldLayout.h"
+#include "bgp/RouteKey.h"
+#include "bgp/RouteKeyLayout.h"
+#include "bgp/RouteKeyWrappers.h"
+#include "registry/Bytes.h"
+
+#include <cstdint>
+#include <iterator>
+
+namespace Orvane {
+namespace {
+
+constexpr unsigned kPeerBodyOffset = 1;
+constexpr unsigned kBmpNameOffset = 3;
+
+constexpr LabeledField kInterfaceName{"%", kStringField};
+constexpr LabeledField kIpv4InParentheses{" (", kIp4Field};
+
+// Indexed by peer-key type.
+constexpr FieldLayout kPeerKeyLayouts[] = {
+    /* 0 */ {},
+    /* 1 */ {{{"", kGenAddrField}, kInterfaceName}},
+    /* 2 */ {{{"", kGenAddrField}}},
+    /* 3 */ {{{"", kStringField}}},
+    /* 4 */ {{{"", kGenAddrField}, kIpv4InParentheses}, ")"},
+    /* 5 */ {{{"", kGenAddrOptField}, kInterfaceName}},
+    /* 6 */ {{{"", kGenAddrOptField}}},
+    /* 7 */ {{{"", kGenAddrOptField}, kIpv4InParentheses}, ")"},
+};
+
+const FieldLayout& peerKeyLayout(const unsigned char* p) {
+  static constexpr FieldLayout kNoBody{};
+  return p[0] < std::size(kPeerKeyLayouts) ? kPeerKeyLayouts[p[0]] : kNoBody;
+}
+
+unsigned short bmpAfi(const unsigned char* p) { return load<uint16_t>(p); }
+unsigned short bmpSafi(const unsigned char* p) { return p[2]; }
+
+} // namespace
+
+unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os) {
+  return formatLayout(peerKeyLayout(p), p, kPeerBodyOffset, os);
+}
+unsigned lengthBgpPeerKey(const unsigned char* p) {
+  return measureLayout(peerKeyLayout(p), p, kPeerBodyOffset);
+}
+
+unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {
+  printRouteKeyFrameOpening(bmpAfi(p), bmpSafi(p), os);
+  const unsigned keyOffset = kBmpNameOffset + formatString(p + kBmpNameOffset, os);
+  os << "; ";
+  const unsigned key = formatBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, os);
+  os << ")> ";
+  return keyOffset + key;
+}
+unsigned lengthBmpRouteKey(const unsigned char* p) {
+  const unsigned keyOffset = kBmpNameOffset + lengthString(p + kBmpNameOffset);
+  return keyOffset + lengthBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset);
+}
+
+unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os) {
+  os << "<AdjRibin:";
+  printNameOr(os, adjRibinTypeNames, p[0], "unknown");
+  os << ">";
+  return lengthAdjRibinType(p);
+}
+unsigned lengthAdjRibinType(const unsigned char*) { return 1; }
+
+} // namespace Orvane

@@ -1,0 +1,59 @@
+#include "bgp/RouteKeyWrappers.h"
+
+#include "bgp/AfiSafi.h"
+#include "bgp/NextHop.h"
+#include "bgp/RouteKey.h"
+#include "bgp/RouteKeyLayout.h"
+#include "registry/Bytes.h"
+
+#include <cstdint>
+
+namespace Orvane {
+namespace {
+
+// A route key record's header, read from either form.
+struct KeyRecord {
+  unsigned headerSize;
+  AfiSafi family;
+  unsigned char nlriType;
+  const unsigned char* vrf;
+};
+
+KeyRecord readOld(const unsigned char* p) { return {9, {load<uint16_t>(p), p[2]}, p[3], p + 4}; }
+KeyRecord readNew(const unsigned char* p) {
+  return {6, bgpRouteKeyParseNlriType(p[0]), p[0], p + 1};
+}
+
+unsigned formatRecord(const KeyRecord& record, const unsigned char* p, std::ostream& os) {
+  printRouteKeyFrameOpening(record.family.afi, record.family.safi, os);
+  formatBgpVrfIdForRkAndNh(record.vrf, os) << "; ";
+  const unsigned key =
+      formatBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize, os);
+  os << " nlriType-" << static_cast<unsigned>(record.nlriType) << ")> ";
+  return record.headerSize + key;
+}
+
+unsigned lengthRecord(const KeyRecord& record, const unsigned char* p) {
+  return record.headerSize +
+         lengthBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize);
+}
+
+} // namespace
+
+void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, std::ostream& os) {
+  os << " RouteKey<(";
+  formatAfi(afi, os) << "/";
+  formatSafi(safi, os) << ") (";
+}
+
+unsigned formatBgpRouteKeyOld(const unsigned char* p, std::ostream& os) {
+  return formatRecord(readOld(p), p, os);
+}
+unsigned lengthBgpRouteKeyOld(const unsigned char* p) { return lengthRecord(readOld(p), p); }
+
+unsigned formatBgpRouteKeyNew(const unsigned char* p, std::ostream& os) {
+  return formatRecord(readNew(p), p, os);
+}
+unsigned lengthBgpRouteKeyNew(const unsigned char* p) { return lengthRecord(readNew(p), p); }
+
+} // namespace Orvane
