@@ -1,8 +1,9 @@
-"""The trace generator of the benchmarks: its lines decode cleanly through ovfmt, every
-registered id is in every round, and ids come as often as their category's weight.
+"""The benchmarks' inputs and coverage: the trace generator's lines decode cleanly
+through ovfmt, every registered id is in every round, ids come as often as their
+category's weight, and format_bench measures every registered id beside its floor.
 
-Run by ctest with OVFMT (the binary), DEMO (examples/demo.txt) and BENCH_DIR (bench/)
-in the environment."""
+Run by ctest with OVFMT (the binary), DEMO (examples/demo.txt), BENCH_DIR (bench/) and
+FORMAT_BENCH (the benchmark binary) in the environment."""
 
 import os
 import subprocess
@@ -20,6 +21,19 @@ def ids_of(path):
     return [line.split(maxsplit=1)[0] for line in Path(path).read_text().splitlines()]
 
 
+def registered_ids():
+    return subprocess.run([os.environ["OVFMT"], "--list"], check=True, text=True,
+                          capture_output=True).stdout.split()
+
+
+class FormatBenchTest(unittest.TestCase):
+    def test_every_registered_id_has_a_benchmark_and_a_floor(self):
+        listed = subprocess.run([os.environ["FORMAT_BENCH"], "--benchmark_list_tests"],
+                                check=True, text=True, capture_output=True).stdout.split()
+        expected = [f"{kind}/{i}" for i in registered_ids() for kind in ("format", "floor")]
+        self.assertEqual(listed, expected)
+
+
 class GenTraceTest(unittest.TestCase):
     def setUp(self):
         self.dir = tempfile.TemporaryDirectory()
@@ -29,8 +43,7 @@ class GenTraceTest(unittest.TestCase):
         self.dir.cleanup()
 
     def test_demo_trace_decodes_and_a_round_covers_every_registered_id(self):
-        registered = subprocess.run([os.environ["OVFMT"], "--list"], check=True, text=True,
-                                    capture_output=True).stdout.split()
+        registered = registered_ids()
         round_length = sum(gen_trace.category_of(i)[1] for i in registered)
         gen_trace.write_trace(os.environ["DEMO"], self.trace, 2 * round_length)
 
