@@ -19,6 +19,10 @@ const std::set<std::string> kExpectedIds = {
     // address/
     "A", "AF", "AM4", "AM6", "DSFID", "E", "EC", "EM", "ES", "I", "I6", "IG", "IGM", "IGMO",
     "IGO", "IP", "IS", "P", "P6", "PG", "PGO",
+    // keys/ and packet/
+    "ARPICE", "ARPICK", "ARPIPIK", "ARPIPK", "C", "DMBK", "F", "GR", "GRO", "HIFK", "IDS", "IE",
+    "IE2", "IFK", "IPMACV2", "IPMACV2O", "MV", "MVP", "NDC", "NDK", "NSK", "OUTAC", "OUTACTYPE",
+    "PKT", "PMK", "SVIESEM", "SVIEVE", "UDF", "US", "VIDP", "VIP", "VIPO", "VSP",
 };
 
 class Registration : public ::testing::Test {
