@@ -19,10 +19,12 @@ public:
   /// Visits `id`: a set id starts or lengthens a run, a clear id closes the run with
   /// `id - 1` as its last id.
   void visit(unsigned id, bool set) {
-    if (!set) return closeRun(id - 1);
-    if (runLength++ > 0) return;
-    if (runsPrinted++ > 0) os << ",";
-    os << id;
+    if (!set) {
+      closeRun(id - 1);
+    } else if (runLength++ == 0) {
+      if (runsPrinted++ > 0) os << ",";
+      os << id;
+    }
   }
 
   /// Visits the 64 ids of `word`, bit i (least significant first) standing for
