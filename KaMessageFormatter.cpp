@@ -24,6 +24,12 @@
 #include "bgp/PeerKeys.h"
 #include "bgp/RouteDistinguisher.h"
 #include "bgp/RouteKeyWrappers.h"
+#include "keys/ArpKeys.h"
+#include "keys/BindingKeys.h"
+#include "keys/ConnectionKeys.h"
+#include "keys/ForwardingKeys.h"
+#include "keys/IntfEncap.h"
+#include "keys/Sequences.h"
 #include "mpls/BfdKeys.h"
 #include "mpls/CspfKeys.h"
 #include "mpls/Fec.h"
@@ -32,11 +38,16 @@
 #include "mpls/Multicast.h"
 #include "mpls/RibKeys.h"
 #include "mpls/TunnelKeys.h"
+#include "packet/KanetPktTraceFormatterWrapper.h"
+#include "packet/Packet.h"
 #include "registry/FormatMap.h"
 
 #include <iterator>
 
 namespace Orvane {
+
+// 2. The packet printer: opens the packet library before anything can print a packet.
+KanetPktTraceFormatterWrapper kanetPktTraceFormatterWrapper;
 
 // 3. Code-to-name tables, in load order.
 const NameTable addressFamilyNames(std::begin(kAddressFamilyNameEntries),
@@ -134,6 +145,40 @@ std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
     {"BRK", {formatBgpRouteKeyOld, lengthBgpRouteKeyOld}},
     {"BRY", {formatBgpRouteKeyNew, lengthBgpRouteKeyNew}},
     {"RIBINT", {formatAdjRibinType, lengthAdjRibinType}},
+    // Service and forwarding-hardware keys, sequences and sets, packets.
+    {"ARPICE", {formatArpInputConfigEntry, lengthArpInputConfigEntry}},
+    {"ARPICK", {formatArpInputConfigKey, lengthArpInputConfigKey}},
+    {"ARPIPIK", {formatArpInputPriorityInterfaceKey, lengthArpInputPriorityInterfaceKey}},
+    {"ARPIPK", {formatArpInputPriorityKey, lengthArpInputPriorityKey}},
+    {"C", {formatConnTuple, lengthConnTuple}},
+    {"DMBK", {formatDuidMacBindingKey, lengthDuidMacBindingKey}},
+    {"F", {formatFapmask, lengthFapmask}},
+    {"GR", {formatGenRange, lengthGenRange}},
+    {"GRO", {formatGenRangeOptimized, lengthGenRangeOptimized}},
+    {"HIFK", {formatHoIpFlowKey, lengthHoIpFlowKey}},
+    {"IDS", {formatIdSet, lengthIdSet}},
+    {"IE", {formatIntfEncap, lengthIntfEncap}},
+    {"IE2", {formatIntfEncapV2, lengthIntfEncapV2}},
+    {"IFK", {formatIpFlowKey, lengthIpFlowKey}},
+    {"IPMACV2", {formatIpMacV2, lengthIpMacV2}},
+    {"IPMACV2O", {formatIpMacV2Optimized, lengthIpMacV2Optimized}},
+    {"MV", {formatMacVtep, lengthMacVtep}},
+    {"MVP", {formatMacVlanPair, lengthMacVlanPair}},
+    {"NDC", {formatNatDynamicConn, lengthNatDynamicConn}},
+    {"NDK", {formatNatDynamicKey, lengthNatDynamicKey}},
+    {"NSK", {formatNatStaticKey, lengthNatStaticKey}},
+    {"OUTAC", {formatOutAcKey, lengthOutAcKey}},
+    {"OUTACTYPE", {formatOutAcTypeKey, lengthOutAcTypeKey}},
+    {"PKT", {formatKanetPkt, lengthKanetPkt}},
+    {"PMK", {formatUpnpPortMapKey, lengthUpnpPortMapKey}},
+    {"SVIESEM", {formatSviEgressEsemRequestKey, lengthSviEgressEsemRequestKey}},
+    {"SVIEVE", {formatSviEgressEveKey, lengthSviEgressEveKey}},
+    {"UDF", {formatUdfDesc, lengthUdfDesc}},
+    {"US", {formatUnsignedSequence, lengthUnsignedSequence}},
+    {"VIDP", {formatVrfIdPair, lengthVrfIdPair}},
+    {"VIP", {formatVlanIpPair, lengthVlanIpPair}},
+    {"VIPO", {formatVlanIpPairOptimized, lengthVlanIpPairOptimized}},
+    {"VSP", {formatVniSourcePair, lengthVniSourcePair}},
 };
 
 } // namespace Orvane

@@ -21,8 +21,9 @@
 //    (up to 20 bytes) and the zone index at 10..13.
 //  * Keys whose count wraps: after a field that reports 0xFFFFFFFF the next field is read
 //    one byte before the value ("CPK", "MFGKO"), and a wrapped total can be smaller than
-//    the bytes the walk examined ("RRRKO", "PGKRO", "FMO", "GRO", "MFGKO", and the BGP
-//    route key wrappers around a link-state prefix with a bad tag or an unknown family).
+//    the bytes the walk examined ("RRRKO", "PGKRO", "FMO", "MFGKO", the BGP route key
+//    wrappers around a link-state prefix with a bad tag or an unknown family, and "GR"
+//    and "GRO" around a sequence with a bad width after up to 255 elements of 9 bytes).
 // Any other read outside the block is a bug in the formatter.
 #include "registry/FormatMap.h"
 
@@ -47,9 +48,9 @@ struct Guard {
 };
 
 const std::map<std::string, Guard> kGuards = {
-    {"A", {8, 24}},     {"CPK", {1, 0}},  {"MFGKO", {1, 4}}, {"RRRKO", {0, 4}},
-    {"PGKRO", {0, 4}},  {"FMO", {0, 4}},  {"GRO", {0, 4}},   {"BRK", {0, 16}},
-    {"BRY", {0, 16}},   {"BMPRK", {0, 16}},
+    {"A", {8, 24}},       {"CPK", {1, 0}},      {"MFGKO", {1, 4}},  {"RRRKO", {0, 4}},
+    {"PGKRO", {0, 4}},    {"FMO", {0, 4}},      {"GR", {0, 2300}},  {"GRO", {0, 2300}},
+    {"BRK", {0, 16}},     {"BRY", {0, 16}},     {"BMPRK", {0, 16}},
 };
 
 struct Target {

@@ -28,6 +28,10 @@ const std::set<std::string> kExpectedIds = {
     "TK", "TKG", "TKGO", "VLAFP", "VLAFPV",
     // bgp/ next hop, route keys, peer keys, BMP route keys, adj-RIB-in types
     "BMPRK", "BNH", "BPK", "BRK", "BRY", "RIBINT",
+    // keys/ and packet/
+    "ARPICE", "ARPICK", "ARPIPIK", "ARPIPK", "C", "DMBK", "F", "GR", "GRO", "HIFK", "IDS", "IE",
+    "IE2", "IFK", "IPMACV2", "IPMACV2O", "MV", "MVP", "NDC", "NDK", "NSK", "OUTAC", "OUTACTYPE",
+    "PKT", "PMK", "SVIESEM", "SVIEVE", "UDF", "US", "VIDP", "VIP", "VIPO", "VSP",
 };
 
 class Registration : public ::testing::Test {
@@ -45,6 +49,7 @@ TEST_F(Registration, EveryIdOnceThroughEachCallFormatFirst) {
     EXPECT_EQ(kinds, (std::vector<Kind>{Kind::Format, Kind::Length})) << "id " << id;
   }
   EXPECT_EQ(ids, kExpectedIds);
+  EXPECT_EQ(ids.size(), 108u);
   EXPECT_EQ(host::registrationLog().size(), 2 * kExpectedIds.size());
 }
 

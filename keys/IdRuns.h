@@ -1,0 +1,49 @@
+// Printing a set of small integer ids as runs: "(0,2-4,127)".
+#pragma once
+
+#include <cstdint>
+#include <ostream>
+
+namespace Orvane {
+
+/// Prints ids visited in ascending order as a comma-separated list in which a single
+/// id prints alone and a run of two or more consecutive ids prints as first-last.
+///
+/// The printer writes the first id of a run as soon as it is visited and the "-last"
+/// part only when the run is closed, either by a clear id or by the caller (closeRun),
+/// which names the last id itself. The surrounding brackets are the caller's.
+class IdRunPrinter {
+public:
+  explicit IdRunPrinter(std::ostream& os) : os(os) {}
+
+  /// Visits `id`: a set id starts or lengthens a run, a clear id closes the run with
+  /// `id - 1` as its last id.
+  void visit(unsigned id, bool set) {
+    if (!set) {
+      closeRun(id - 1);
+    } else if (runLength++ == 0) {
+      if (runsPrinted++ > 0) os << ",";
+      os << id;
+    }
+  }
+
+  /// Visits the 64 ids of `word`, bit i (least significant first) standing for
+  /// `base + i`.
+  void visitWord(unsigned base, uint64_t word) {
+    for (unsigned bit = 0; bit < 64; ++bit) visit(base + bit, (word >> bit) & 1);
+  }
+
+  /// Ends the current run: a run of two or more prints "-" and `lastId`, a run of one
+  /// prints nothing more. The next set id starts a new run.
+  void closeRun(unsigned lastId) {
+    if (runLength >= 2) os << "-" << lastId;
+    runLength = 0;
+  }
+
+private:
+  std::ostream& os;
+  unsigned runLength = 0;
+  unsigned runsPrinted = 0;
+};
+
+} // namespace Orvane
