@@ -49,6 +49,17 @@ def table(header, rows):
     return "\n".join(lines)
 
 
+def median_ns(measured):
+    """The median over the passes of a benchmark's CPU ns per iteration."""
+    return statistics.median(measured["cpu_ns"])
+
+
+def median_ratio(measured, floor):
+    """The median over the passes of the benchmark's time over its floor's, each pass
+    comparing runs made side by side."""
+    return statistics.median(a / b for a, b in zip(measured["cpu_ns"], floor["cpu_ns"]))
+
+
 def per_id(results):
     """(id, category, ns per value, floor ns, ratio) for every id measured."""
     rows = []
@@ -56,9 +67,8 @@ def per_id(results):
         measured = results["format"].get(f"format/{type_id}")
         floor = results["format"].get(f"floor/{type_id}")
         if measured and floor:
-            ratio = measured["cpu_ns"] / floor["cpu_ns"]
-            rows.append((type_id, gen_trace.category_of(type_id)[0], measured["cpu_ns"],
-                         floor["cpu_ns"], ratio))
+            rows.append((type_id, gen_trace.category_of(type_id)[0], median_ns(measured),
+                         median_ns(floor), median_ratio(measured, floor)))
     return rows
 
 
@@ -72,8 +82,9 @@ def conditions_block(results):
         f"- Measured {c['date']} on commit `{c['commit']}`. {coverage}",
         f"- {c['cores']} cores ({c['cpu']}), {c['compiler']}, the `bench` preset (Release).",
         f"- Load average {c['load']:.1f} when the run started and {c['load_after']:.1f} when it "
-        "ended: a load above the core count means other builds shared the machine, so "
-        "times are CPU times (not wall) and medians of repetitions.",
+        "ended (a load above the core count means other builds shared the machine). Times "
+        f"are CPU times, medians of {len(next(iter(results['format'].values()))['cpu_ns'])} "
+        "passes over the whole suite.",
     ])
 
 
@@ -110,8 +121,8 @@ def mixed_block(results):
     for name, what in [("mixed/format", "length + format, pair found once per id"),
                        ("mixed/format_lookup", "the same, pair looked up by id per value"),
                        ("mixed/floor", "floor: one write of the finished text")]:
-        ns = f[name]["cpu_ns"] / values
-        rows.append((what, ns, f"{1e3 / ns:.2f} M", f"{ns / (floor['cpu_ns'] / values):.1f}x"))
+        ns = median_ns(f[name]) / values
+        rows.append((what, ns, f"{1e3 / ns:.2f} M", f"{median_ratio(f[name], floor):.1f}x"))
     shares = ", ".join(f"{name} {share}" for name, share in corpus_share(results))
     return (f"Corpus: the first {values:,} values of the generated trace; share of values by "
             f"category: {shares}.\n\n" +

@@ -2,8 +2,8 @@
 """Runs every benchmark against a built tree and records the results as JSON.
 
 scripts/bench builds the tree and calls this, then report.py. Each measurement is
-repeated and reported as a median; CPU times are kept beside wall times because the
-machine may be shared.
+repeated so that report.py can take medians; CPU times are kept beside wall times
+because the machine may be shared.
 """
 
 import argparse
@@ -24,7 +24,7 @@ CORPUS_VALUES = 20_000
 PROFILE_LINES = 20_000
 OVFMT_RUNS = 3
 LOAD_RUNS = 25
-REPETITIONS = 5
+PASSES = 5
 MIN_TIME = 0.05
 # callgrind_annotate rows: "  1,234 (12.34%)  file:function [object]"
 ANNOTATE_ROW = re.compile(r"^\s*([\d,]+)\s+\(\s*([\d.]+)%\)\s+(.*)$")
@@ -63,19 +63,23 @@ def conditions():
 
 
 def format_benchmarks(build, corpus, out):
-    """Per-id and mixed-corpus medians from format_bench, by benchmark name."""
-    json_file = out / "format.json"
-    run([str(build / "bin/format_bench"), f"--corpus={corpus}",
-         f"--corpus-values={CORPUS_VALUES}", f"--benchmark_repetitions={REPETITIONS}",
-         f"--benchmark_min_time={MIN_TIME}", "--benchmark_report_aggregates_only=true",
-         f"--benchmark_out={json_file}", "--benchmark_out_format=json"])
-    medians = {}
-    for entry in json.loads(json_file.read_text())["benchmarks"]:
-        if entry.get("aggregate_name") == "median":
+    """CPU ns of every per-id and mixed-corpus benchmark, one figure per pass, by name.
+
+    The whole suite runs PASSES times rather than each benchmark repeating in place, so
+    a burst of load from another process lands on one pass of many ids, not on every
+    repetition of one; each id still runs right beside its floor."""
+    times = {}
+    for number in range(PASSES):
+        json_file = out / f"format-{number}.json"
+        run([str(build / "bin/format_bench"), f"--corpus={corpus}",
+             f"--corpus-values={CORPUS_VALUES}", f"--benchmark_min_time={MIN_TIME}",
+             f"--benchmark_out={json_file}", "--benchmark_out_format=json"],
+            stderr=subprocess.DEVNULL)
+        for entry in json.loads(json_file.read_text())["benchmarks"]:
             name = entry["run_name"].split("/min_time:")[0]
-            medians[name] = {"cpu_ns": entry["cpu_time"], "real_ns": entry["real_time"],
-                             "values": entry.get("values", 1)}
-    return medians
+            measured = times.setdefault(name, {"cpu_ns": [], "values": entry.get("values", 1)})
+            measured["cpu_ns"].append(entry["cpu_time"])
+    return times
 
 
 def annotate(profile, inclusive, rows):
