@@ -17,10 +17,12 @@ struct TraceValue {
   std::vector<unsigned char> bytes;
 };
 
+/// No limit on the number of values read.
+inline constexpr std::size_t kAllValues = std::numeric_limits<std::size_t>::max();
+
 /// Reads up to `limit` values from the batch file at `path`. Throws std::runtime_error
 /// naming the file and line for an unreadable file or a line with bad hex.
-std::vector<TraceValue> readTraceValues(const std::string& path,
-                                        std::size_t limit = std::numeric_limits<std::size_t>::max());
+std::vector<TraceValue> readTraceValues(const std::string& path, std::size_t limit = kAllValues);
 
 /// A value in a ValueArena with its registered pair and the text it formats to.
 struct PlacedValue {

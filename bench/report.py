@@ -22,7 +22,8 @@ FURTHEST = 3
 
 def short_name(function):
     """A C++ function name without template arguments and parameter lists."""
-    name = function.replace("(anonymous namespace)", "{anon}").replace("(below main)", "{below main}")
+    name = function.replace("(anonymous namespace)", "{anon}")
+    name = name.replace("(below main)", "{below main}")
     previous = None
     while previous != name:
         previous, name = name, re.sub(r"<[^<>]*>", "", name)
@@ -91,8 +92,10 @@ def conditions_block(results):
 def per_id_block(results):
     rows = [(i, cat, ns, floor, f"{ratio:.1f}x") for i, cat, ns, floor, ratio in per_id(results)]
     missing = sorted(set(results["ids"]) - {row[0] for row in rows})
-    note = f"\n\nNot measured (no value in examples/demo.txt): {', '.join(missing)}." if missing else ""
-    return table(["Id", "Category", "ns per value", "Floor ns", "Ratio to floor"], rows) + note
+    text = table(["Id", "Category", "ns per value", "Floor ns", "Ratio to floor"], rows)
+    if missing:
+        text += f"\n\nNot measured (no value in examples/demo.txt): {', '.join(missing)}."
+    return text
 
 
 def furthest_block(results):

@@ -82,10 +82,9 @@ def format_benchmarks(build, corpus, out):
     return times
 
 
-def annotate(profile, inclusive, rows):
-    """The top rows of callgrind_annotate: (instructions, percent, function)."""
-    text = run(["callgrind_annotate", f"--inclusive={'yes' if inclusive else 'no'}", str(profile)],
-               stderr=subprocess.DEVNULL)
+def annotate(profile, rows):
+    """The top inclusive rows of callgrind_annotate: (instructions, percent, function)."""
+    text = run(["callgrind_annotate", "--inclusive=yes", str(profile)], stderr=subprocess.DEVNULL)
     table = text.split("file:function", 1)[1]
     found = []
     for line in table.splitlines():
@@ -97,13 +96,13 @@ def annotate(profile, inclusive, rows):
 
 
 def callgrind(command, profile, extra=()):
-    """Instruction counts of one run under callgrind: the total, and where they go."""
+    """Instruction counts of one run under callgrind: the total, and the functions they
+    were spent in (inclusive)."""
     subprocess.run(["valgrind", "--tool=callgrind", f"--callgrind-out-file={profile}", *extra,
                     *command], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     totals = run(["callgrind_annotate", str(profile)], stderr=subprocess.DEVNULL)
-    total = int(re.search(r"([\d,]+) \(100.0%\)\s+PROGRAM TOTALS", totals).group(1).replace(",", ""))
-    return {"total_ir": total, "self": annotate(profile, False, 12),
-            "inclusive": annotate(profile, True, 40)}
+    total = re.search(r"([\d,]+) \(100.0%\)\s+PROGRAM TOTALS", totals).group(1)
+    return {"total_ir": int(total.replace(",", "")), "inclusive": annotate(profile, 40)}
 
 
 def perf_profile(command, out):

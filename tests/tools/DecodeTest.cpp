@@ -20,23 +20,31 @@ const host::FormatterPair kProbe = pairOf([](const unsigned char*, std::ostream&
   return 1u;
 });
 
+// A formatter that prints nothing and leaves `change` made to the stream.
+host::FormatterPair leaving(void (*change)(std::ostream&)) {
+  return pairOf([change](const unsigned char*, std::ostream& os) {
+    change(os);
+    return 1u;
+  });
+}
+
 TEST(Decoder, EachValueSeesANewStreamsState) {
   const struct {
     const char* left;
-    FormatFn format;
+    void (*change)(std::ostream&);
   } cases[] = {
-      {"hex", [](auto, std::ostream& os) { return (os << std::hex), 1u; }},
-      {"fill and width", [](auto, std::ostream& os) { return (os << std::setfill('0') << std::setw(8)), 1u; }},
-      {"uppercase showbase hex", [](auto, std::ostream& os) {
-         return (os << std::uppercase << std::showbase << std::hex), 1u; }},
-      {"precision and fixed", [](auto, std::ostream& os) { return (os << std::setprecision(2) << std::fixed), 1u; }},
-      {"left adjustment", [](auto, std::ostream& os) { return (os << std::left << std::setw(6)), 1u; }},
+      {"hex", [](std::ostream& os) { os << std::hex; }},
+      {"fill and width", [](std::ostream& os) { os << std::setfill('0') << std::setw(8); }},
+      {"uppercase showbase hex",
+       [](std::ostream& os) { os << std::uppercase << std::showbase << std::hex; }},
+      {"precision and fixed", [](std::ostream& os) { os << std::setprecision(2) << std::fixed; }},
+      {"left adjustment", [](std::ostream& os) { os << std::left << std::setw(6); }},
   };
   const std::string fresh = ovfmt::decodeValue(kProbe, {0}).text;
   ASSERT_EQ(fresh, "255|0.333333|x");
   for (const auto& c : cases) {
     ovfmt::Decoder decoder;
-    decoder.decode(pairOf(c.format), {0});
+    decoder.decode(leaving(c.change), {0});
     EXPECT_EQ(decoder.decode(kProbe, {0}).text, fresh) << "after a formatter that left " << c.left;
   }
 }
