@@ -13,6 +13,7 @@ import platform
 import re
 import subprocess
 import sys
+import tempfile
 import time
 from datetime import datetime, timezone
 from pathlib import Path
@@ -35,16 +36,17 @@ def run(command, **kwargs):
     return subprocess.run(command, check=True, text=True, stdout=subprocess.PIPE, **kwargs).stdout
 
 
-def timed(command, stdout=subprocess.DEVNULL):
-    """Wall and CPU seconds (user + system) of one run of a command that must succeed."""
-    start = time.perf_counter()
-    child = subprocess.Popen(command, stdout=stdout, stderr=subprocess.PIPE)
-    _, status, usage = os.wait4(child.pid, 0)
-    wall = time.perf_counter() - start
-    errors = child.stderr.read().decode()
-    child.stderr.close()
-    if os.waitstatus_to_exitcode(status) != 0:
-        sys.exit(f"run.py: {command[0]} failed: {errors}")
+def timed(command):
+    """Wall and CPU seconds (user + system) of one run of a command that must succeed,
+    its output discarded. Its errors go to a file, which never fills up as a pipe would."""
+    with tempfile.TemporaryFile() as errors:
+        start = time.perf_counter()
+        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=errors)
+        _, status, usage = os.wait4(child.pid, 0)
+        wall = time.perf_counter() - start
+        if os.waitstatus_to_exitcode(status) != 0:
+            errors.seek(0)
+            sys.exit(f"run.py: {command[0]} failed: {errors.read().decode(errors='replace')}")
     return {"wall": wall, "cpu": usage.ru_utime + usage.ru_stime}
 
 
