@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iomanip>
 
 namespace Orvane {
 namespace {
@@ -24,10 +23,19 @@ void printVlanTag(uint16_t tpid, uint16_t tci, std::ostream& os) {
   os << ") ";
 }
 
+// Two lowercase digits a byte, written at once: a padded number insertion per byte
+// costs far more than the text. The stream is left as a hex dump through it would
+// leave it: decimal base, fill '0'.
 void printHexBytes(const unsigned char* bytes, unsigned count, std::ostream& os) {
-  os << std::hex << std::setfill('0');
-  for (unsigned i = 0; i < count; ++i) os << std::setw(2) << static_cast<unsigned>(bytes[i]);
-  os << std::dec;
+  static constexpr char kDigits[] = "0123456789abcdef";
+  char text[2 * 255];
+  for (unsigned i = 0; i < count; ++i) {
+    text[2 * i] = kDigits[bytes[i] >> 4];
+    text[2 * i + 1] = kDigits[bytes[i] & 15];
+  }
+  os.write(text, 2 * count);
+  os.fill('0');
+  os.setf(std::ios::dec, std::ios::basefield);
 }
 
 } // namespace
