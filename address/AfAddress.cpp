@@ -2,10 +2,10 @@
 
 #include "address/Ip.h"
 #include "registry/Bytes.h"
+#include "registry/HexDigits.h"
 
 #include <algorithm>
 #include <cstring>
-#include <iomanip>
 
 namespace Orvane {
 namespace {
@@ -48,17 +48,23 @@ void printInet6(const unsigned char* p, unsigned n, bool zoned, std::ostream& os
   }
 }
 
-// Hex byte pairs joined by "."; an odd last byte follows a "-".
+// Hex byte pairs joined by "."; an odd last byte follows a "-". Like a hex dump through
+// the stream, it leaves the fill at '0' and the base decimal.
 void printDataBytes(const unsigned char* data, int count, std::ostream& os) {
-  os << std::hex << std::setfill('0');
+  char text[5 * 128]; // at most 253 bytes: "xxxx." per pair, "-xx" for the last
+  char* out = text;
   int i = 0;
   for (; i + 1 < count; i += 2) {
-    if (i) os << ".";
-    os << std::setw(2) << static_cast<unsigned>(data[i]) << std::setw(2)
-       << static_cast<unsigned>(data[i + 1]);
+    if (i) *out++ = '.';
+    out = writeHexByte(data[i + 1], writeHexByte(data[i], out));
   }
-  if (i < count) os << "-" << std::setw(2) << static_cast<unsigned>(data[i]);
-  os << std::dec;
+  if (i < count) {
+    *out++ = '-';
+    out = writeHexByte(data[i], out);
+  }
+  os.write(text, out - text);
+  os.fill('0');
+  os.setf(std::ios::dec, std::ios::basefield);
 }
 
 void printLabelled(const unsigned char* p, unsigned n, bool inet6, std::ostream& os) {

@@ -2,6 +2,7 @@
 
 #include "address/GenericPrefix.h"
 #include "bgp/RouteDistinguisher.h"
+#include "registry/HexDigits.h"
 
 #include <iterator>
 
@@ -13,13 +14,15 @@ namespace {
 // left out at the end (the block's size is fixed by the layout). An all-zero block
 // prints its first byte: 0x00.. The stream's base is not touched.
 void printRawBytes(std::ostream& os, const unsigned char* p, unsigned size) {
-  static constexpr char kDigits[] = "0123456789abcdef";
   unsigned shown = size;
   while (shown > 1 && p[shown - 1] == 0)
     --shown;
   os << "0x";
-  for (unsigned i = 0; i < shown; ++i)
-    os << kDigits[p[i] >> 4] << kDigits[p[i] & 15];
+  for (unsigned i = 0; i < shown; ++i) {
+    char digits[2];
+    writeHexByte(p[i], digits);
+    os.write(digits, 2);
+  }
   if (shown < size)
     os << "..";
 }

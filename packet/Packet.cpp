@@ -2,6 +2,7 @@
 
 #include "packet/KanetPktTraceFormatterWrapper.h"
 #include "registry/Bytes.h"
+#include "registry/HexDigits.h"
 #include "registry/HostInterface.h"
 
 #include <algorithm>
@@ -27,13 +28,10 @@ void printVlanTag(uint16_t tpid, uint16_t tci, std::ostream& os) {
 // costs far more than the text. The stream is left as a hex dump through it would
 // leave it: decimal base, fill '0'.
 void printHexBytes(const unsigned char* bytes, unsigned count, std::ostream& os) {
-  static constexpr char kDigits[] = "0123456789abcdef";
   char text[2 * 255];
-  for (unsigned i = 0; i < count; ++i) {
-    text[2 * i] = kDigits[bytes[i] >> 4];
-    text[2 * i + 1] = kDigits[bytes[i] & 15];
-  }
-  os.write(text, 2 * count);
+  char* out = text;
+  for (unsigned i = 0; i < count; ++i) out = writeHexByte(bytes[i], out);
+  os.write(text, out - text);
   os.fill('0');
   os.setf(std::ios::dec, std::ios::basefield);
 }

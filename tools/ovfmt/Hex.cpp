@@ -1,5 +1,7 @@
 #include "tools/ovfmt/Hex.h"
 
+#include "registry/HexDigits.h"
+
 namespace Orvane::ovfmt {
 namespace {
 
@@ -15,8 +17,9 @@ bool isSeparator(char c) { return c == ' ' || c == '\t' || c == ':'; }
 std::string describe(char c) {
   const auto byte = static_cast<unsigned char>(c);
   if (byte >= 0x20 && byte < 0x7f) return std::string("'") + c + "'";
-  static const char digits[] = "0123456789abcdef";
-  return std::string("byte 0x") + digits[byte >> 4] + digits[byte & 15];
+  char digits[2];
+  writeHexByte(byte, digits);
+  return "byte 0x" + std::string(digits, 2);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // "ID HEX..." on the command line or, with --batch, one per line of a file.
 #include "host/PluginLoader.h"
 #include "host/Registry.h"
+#include "registry/HexDigits.h"
 #include "tools/ovfmt/BatchLine.h"
 #include "tools/ovfmt/Decode.h"
 #include "tools/ovfmt/Hex.h"
@@ -56,10 +57,10 @@ std::string printable(std::string_view text) {
     if (c >= 0x20 && c < 0x7f) {
       out += static_cast<char>(c);
     } else {
-      static const char digits[] = "0123456789abcdef";
+      char digits[2];
+      writeHexByte(c, digits);
       out += "\\x";
-      out += digits[c >> 4];
-      out += digits[c & 15];
+      out.append(digits, 2);
     }
   }
   if (text.size() > kMax) out += "...";
