@@ -6,6 +6,8 @@
 // is printed last, in parentheses: <ip:10.0.0.1, routerMac:001c.73aa.bbcc> (L3-vrfId:2).
 #pragma once
 
+#include "registry/TextRun.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -14,6 +16,9 @@ namespace Orvane {
 /// or "unknown" for kinds 4..255), "-vrfId:" and the u32 at p + 1, e.g. L3-vrfId:5.
 /// Returns `os`.
 std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os);
+/// formatBgpVrfIdForRkAndNh() within a longer text: the kind's name and "-vrfId:" join
+/// the text pending in `text`, which is flushed before the number.
+void printBgpVrfId(const unsigned char* p, TextRun& text);
 
 /// "BNH": the body of the next-hop type at p[5], then " (" VRF ")". Type 0 and types
 /// above 32 print "NULL" as their body. Layer-2 attributes follow the field before

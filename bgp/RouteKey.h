@@ -9,6 +9,8 @@
 // to the last non-zero byte, ".." standing for the zero bytes left out at the end.
 #pragma once
 
+#include "registry/TextRun.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -19,5 +21,9 @@ namespace Orvane {
 /// numbers after it in the key print in hex too.
 unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            std::ostream& os);
+/// formatBgpRouteKey() within a longer text: the key's labels join the text pending in
+/// `text`, and its closing text is left pending there (see formatLayout).
+unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
+                           TextRun& text);
 
 } // namespace Orvane
