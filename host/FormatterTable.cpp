@@ -43,43 +43,38 @@ const FormatterPair* FormatterTable::find(std::string_view id) const noexcept {
   return entry ? &entry->pair : nullptr;
 }
 
-FormatterTable::Entry FormatterTable::entryFor(std::string_view id) const {
-  const Entry* entry = probe(*current_.load(std::memory_order_relaxed), id).entry;
-  return entry ? *entry : Entry{std::string(id), {}};
+const FormatterTable::Slots& FormatterTable::current() const {
+  return *current_.load(std::memory_order_relaxed);
 }
 
 void FormatterTable::setFormat(std::string_view id, FormatFn fn) {
-  Entry entry = entryFor(id);
-  if (entry.pair.format)
-    return;
-  entry.pair.format = std::move(fn);
-  publish(std::move(entry));
+  set(id, &FormatterPair::format, std::move(fn));
 }
 
 void FormatterTable::setLength(std::string_view id, LengthFn fn) {
-  Entry entry = entryFor(id);
-  if (entry.pair.length)
-    return;
-  entry.pair.length = std::move(fn);
-  publish(std::move(entry));
+  set(id, &FormatterPair::length, std::move(fn));
 }
 
-void FormatterTable::publish(Entry entry) {
-  const Slots* slots = current_.load(std::memory_order_relaxed);
-  Probe found = probe(*slots, entry.id);
-  if (!found.entry) {
-    if (2 * (size_ + 1) > slots->capacity()) {
-      grow();
-      found = probe(*current_.load(std::memory_order_relaxed), entry.id);
-    }
-    ++size_;
+// The new entry is built in its final place, a copy of the id's entry with one more
+// function, and only then published, so readers never see it half built.
+template <class Fn>
+void FormatterTable::set(std::string_view id, Fn FormatterPair::*function, Fn fn) {
+  Probe found = probe(current(), id);
+  if (found.entry && found.entry->pair.*function)
+    return;
+  Entry& entry = found.entry ? entries_.emplace_back(*found.entry)
+                             : entries_.emplace_back(Entry{std::string(id), {}});
+  entry.pair.*function = std::move(fn);
+  if (!found.entry && 2 * ++size_ > current().capacity()) {
+    grow();
+    found = probe(current(), id);
   }
-  found.slot->store(&entries_.emplace_back(std::move(entry)), std::memory_order_release);
+  found.slot->store(&entry, std::memory_order_release);
 }
 
 // Readers may still be probing the old table, so it is kept, unchanged, beside the new.
 void FormatterTable::grow() {
-  const Slots& old = *current_.load(std::memory_order_relaxed);
+  const Slots& old = current();
   auto bigger = std::make_unique<Slots>(2 * old.capacity());
   for (std::size_t i = 0; i < old.capacity(); ++i)
     if (const Entry* entry = old.slot[i].load(std::memory_order_relaxed))
@@ -89,7 +84,7 @@ void FormatterTable::grow() {
 }
 
 std::vector<std::string> FormatterTable::ids() const {
-  const Slots& slots = *current_.load(std::memory_order_relaxed);
+  const Slots& slots = current();
   std::vector<std::string> ids;
   for (std::size_t i = 0; i < slots.capacity(); ++i)
     if (const Entry* entry = slots.slot[i].load(std::memory_order_relaxed))

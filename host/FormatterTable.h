@@ -58,10 +58,11 @@ private:
     const Entry* entry;
   };
   static Probe probe(const Slots& slots, std::string_view id);
-  // A copy of the entry of `id`, or a new entry with neither function.
-  Entry entryFor(std::string_view id) const;
-  // Makes `entry` the one readers find for its id, growing the table for a new id.
-  void publish(Entry entry);
+  // The table readers currently search; writers use it under the caller's lock.
+  const Slots& current() const;
+  // Publishes a copy of the entry of `id` (or a new one) with `fn` as its `function`,
+  // unless that function is already set.
+  template <class Fn> void set(std::string_view id, Fn FormatterPair::*function, Fn fn);
   void grow();
 
   std::atomic<const Slots*> current_;
