@@ -61,14 +61,25 @@ TEST(AfiSafi, NlriTypes) {
   });
 }
 
+// Through the exported printers: the tables themselves are internal to the plug-in.
 TEST(AfiSafi, EveryNlriTypeHasANameAndAPair) {
   for (unsigned code = 0; code <= 255; ++code) {
+    const unsigned char byte = code;
+    std::ostringstream name, pair;
+    formatNlriType(static_cast<NlriType>(code), name);
+    formatNlriType2AfiSafi(&byte, pair);
     const bool valid = code <= kNlriOneBeyondLastValid;
-    EXPECT_EQ(nlriTypeNames.count(code), valid ? 1u : 0u) << code;
-    EXPECT_EQ(nlriTypeToAfiSafi.count(code), valid ? 1u : 0u) << code;
+    EXPECT_EQ(name.str() != "<NLRI:unknown>", valid) << code;
+    EXPECT_EQ(pair.str().find("<AfiSafi:unknown>") == std::string::npos, valid) << code;
   }
-  EXPECT_EQ(afiNames.size(), 6u);
-  EXPECT_EQ(safiNames.size(), 46u);
+  unsigned afis = 0, safis = 0;
+  for (unsigned code = 0; code <= 0xFFFF; ++code) {
+    std::ostringstream afi, safi;
+    formatAfi(code, afi), formatSafi(code, safi);
+    afis += afi.str() != "unknown", safis += safi.str() != "unknown";
+  }
+  EXPECT_EQ(afis, 6u);
+  EXPECT_EQ(safis, 46u);
 }
 
 TEST(AfiSafi, ParseNlriType) {
