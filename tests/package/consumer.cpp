@@ -1,6 +1,5 @@
-// Another team's program, built against an installed Orvane: prints a value through an
-// exported formatter, then through the host's registry, which the plug-in filled as it
-// loaded.
+// Another team's program: prints a value through an exported formatter, then through
+// the host's registry, which the plug-in filled as it loaded.
 #include "address/GenericPrefix.h"
 #include "host/Registry.h"
 
@@ -10,7 +9,6 @@ int main() {
   const unsigned char value[] = {0x01, 20, 0x0a, 0x01, 0x10}; // "PGO" 10.1.16.0/20
   Orvane::formatIpGenPrefixOptimized(value, std::cout);
   std::cout << " ";
-  if (const auto* registered = Orvane::host::findFormatter("PGO"))
-    registered->format(value, std::cout);
+  Orvane::host::findFormatter("PGO")->format(value, std::cout);
   std::cout << "\n";
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Packs BUILD as a .deb, checks that it declares its dependencies (dpkg-shlibdeps),
-# unpacks it and decodes DEMO with the packaged ovfmt: the text must be the build's own.
+# Packs BUILD as a .deb with dependencies (dpkg-shlibdeps), unpacks it and decodes DEMO
+# with the packaged ovfmt: the text must be the build's own.
 set -euo pipefail
 build=$1 demo=$2 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

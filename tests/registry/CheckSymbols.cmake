@@ -1,6 +1,5 @@
-# Compares the dynamic symbols LIBRARY defines (demangled, sorted) with its committed
-# list EXPECTED, printing the difference; the list it found is left in ACTUAL. With
-# HOST, a pattern of the host library's symbols: LIBRARY must import them, define none.
+# Compares the dynamic symbols LIBRARY defines (demangled, sorted) with the list EXPECTED
+# and leaves them in ACTUAL. LIBRARY must import the symbols HOST matches, define none.
 execute_process(COMMAND nm -DC --defined-only ${LIBRARY} OUTPUT_VARIABLE defined
                 COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "[^\n]+" symbols "${defined}")
