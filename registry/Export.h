@@ -2,8 +2,9 @@
 //
 // The plug-in and the host library are built with hidden visibility: a function or
 // object is exported only when its declaration carries ORVANE_API. Everything else
-// (helpers, name tables, layouts) stays internal and may change without notice.
-// abi/*.symbols lists what each library exports; a change there is an ABI change.
+// (helpers, name tables, layouts) stays internal and may change without notice; so do
+// names outside the namespace Orvane, which abi/exports.map keeps out. abi/*.symbols
+// lists what each library exports; a change there is an ABI change (abi/README.md).
 //
 // Mark a declaration in its header, before the return type, so that the defining
 // translation unit and every caller see the same visibility:
