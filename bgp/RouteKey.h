@@ -9,6 +9,7 @@
 // to the last non-zero byte, ".." standing for the zero bytes left out at the end.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -19,8 +20,8 @@ namespace Orvane {
 /// same bytes. A combination without a layout prints nothing and returns 0xFFFFFFFF.
 /// An RD of unknown type leaves the stream in hexadecimal (as its printer does), so the
 /// numbers after it in the key print in hex too.
-unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
-                           std::ostream& os);
+ORVANE_API unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi,
+                                      const unsigned char* key, std::ostream& os);
 /// formatBgpRouteKey() within a longer text: the key's labels join the text pending in
 /// `text`, and its closing text is left pending there (see formatLayout).
 unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,

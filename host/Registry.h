@@ -1,6 +1,7 @@
 // The host's view of what plug-ins registered: lookup by id and the call log.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/Formatter.h"
 
 #include <cstddef>
@@ -27,13 +28,13 @@ struct RegistrationCall {
 /// The pair registered for `id`, or nullptr when the id is unknown. Takes no lock and
 /// is safe while a plug-in registers; the pair it returns never changes afterwards (a
 /// function registered later for the same id is found by the next lookup).
-const FormatterPair* findFormatter(std::string_view id);
+ORVANE_API const FormatterPair* findFormatter(std::string_view id);
 
 /// Every registered id, sorted.
-std::vector<std::string> registeredIds();
+ORVANE_API std::vector<std::string> registeredIds();
 
 /// Every registration call received so far, duplicates included, in order.
-std::vector<RegistrationCall> registrationLog();
+ORVANE_API std::vector<RegistrationCall> registrationLog();
 
 /// The number of registration calls received so far: registrationLog().size()
 /// without the copy.
