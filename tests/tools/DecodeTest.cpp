@@ -1,5 +1,6 @@
-// One Decoder formats value after value; each must format as if it were the first:
-// on a stream in a new stream's state, in a buffer that is zero outside the value.
+// One Decoder formats value after value, and one record argument after argument; each
+// must format as if it were the first: on a stream in a new stream's state, in a buffer
+// that is zero outside the value.
 #include "tools/ovfmt/Decode.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +48,17 @@ TEST(Decoder, EachValueSeesANewStreamsState) {
     decoder.decode(leaving(c.change), {0});
     EXPECT_EQ(decoder.decode(kProbe, {0}).text, fresh) << "after a formatter that left " << c.left;
   }
+}
+
+TEST(RecordWalker, EachArgumentSeesANewStreamsState) {
+  const auto hex = leaving([](std::ostream& os) { os << std::hex << std::setw(8); });
+  const ovfmt::ArgumentType types[] = {{"hex", &hex}, {"probe", &kProbe}};
+  ovfmt::RecordWalker walker;
+  walker.load(std::vector<unsigned char>{0, 0});
+  const auto arguments = walker.walk(types);
+  ASSERT_EQ(arguments.size(), 2u);
+  EXPECT_EQ(arguments[1].offset, 1u);
+  EXPECT_EQ(arguments[1].text, "255|0.333333|x");
 }
 
 TEST(Decoder, BytesAroundAValueAreZeroAfterALongerOne) {
