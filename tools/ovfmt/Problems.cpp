@@ -56,6 +56,17 @@ std::string faultProblem(const Argument& argument, Fault fault, std::size_t reco
   return {};
 }
 
+std::string firstFaultProblem(std::span<const Argument> arguments, std::size_t count,
+                              std::size_t recordSize) {
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const Fault fault = faultOf(arguments[i], recordSize);
+    if (fault != Fault::None)
+      return argumentPrefix(i + 1, count, arguments[i].id) +
+             faultProblem(arguments[i], fault, recordSize);
+  }
+  return {};
+}
+
 std::string leftoverProblem(std::size_t bytes) {
   return bytesWord(bytes) + " after the value not consumed";
 }

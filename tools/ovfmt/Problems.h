@@ -7,6 +7,7 @@
 
 #include "tools/ovfmt/Record.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,11 @@ std::string missingFunctionProblem(std::string_view id, const host::FormatterPai
 /// short says how many bytes were "given" to the first argument and "left" for a later
 /// one.
 std::string faultProblem(const Argument& argument, Fault fault, std::size_t recordSize);
+
+/// The problem of the first argument of a walk with a fault, prefixed as in a record of
+/// `count` arguments over `recordSize` bytes; empty when no argument has one.
+std::string firstFaultProblem(std::span<const Argument> arguments, std::size_t count,
+                              std::size_t recordSize);
 
 /// `N bytes after the value not consumed`.
 std::string leftoverProblem(std::size_t bytes);

@@ -54,13 +54,10 @@ bool RecordPrinter::printCounts(const Where& where, std::span<const Argument> ar
 
 bool RecordPrinter::printText(const Where& where, std::span<const Argument> arguments,
                               Output& output) {
+  const std::string problem = firstFaultProblem(arguments, types_.size(), walker_.size());
+  if (!problem.empty()) return fail(where, problem, output);
   texts_.clear();
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const Fault fault = faultOf(arguments[i], walker_.size());
-    if (fault != Fault::None)
-      return fail(where, prefix(i) + faultProblem(arguments[i], fault, walker_.size()), output);
-    texts_.push_back(arguments[i].text);
-  }
+  for (const Argument& argument : arguments) texts_.push_back(argument.text);
   std::string& text = output.text();
   if (options_.layout) {
     options_.layout->render(texts_, text);
