@@ -6,13 +6,6 @@
 
 namespace Orvane::ovfmt {
 
-Fault faultOf(const Argument& argument, std::size_t recordSize) {
-  if (argument.length == kInvalidLength) return Fault::InvalidLength;
-  if (argument.length > recordSize - argument.offset) return Fault::PastEnd;
-  if (argument.consumed != argument.length) return Fault::ConsumedDiffers;
-  return Fault::None;
-}
-
 void RecordWalker::load(std::span<const unsigned char> bytes) {
   std::copy(bytes.begin(), bytes.end(), buffer_.prepare(bytes.size()));
   buffer_.setSize(bytes.size());

@@ -37,7 +37,12 @@ enum class Fault {
 };
 
 /// The first fault of `argument` in a record of `recordSize` bytes.
-Fault faultOf(const Argument& argument, std::size_t recordSize);
+inline Fault faultOf(const Argument& argument, std::size_t recordSize) {
+  if (argument.length == kInvalidLength) return Fault::InvalidLength;
+  if (argument.length > recordSize - argument.offset) return Fault::PastEnd;
+  if (argument.consumed != argument.length) return Fault::ConsumedDiffers;
+  return Fault::None;
+}
 
 /// Decodes records one after another in one guarded buffer and one TextStream. The
 /// record's bytes are placed between the guards once and every argument is read in
