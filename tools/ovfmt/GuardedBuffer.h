@@ -35,7 +35,9 @@ public:
     size_ = 0;
   }
 
+  /// The first byte after the guard before: where the current bytes start.
   unsigned char* data() { return bytes_.data() + kGuardBefore; }
+  /// How many bytes are current (as given to setSize()).
   std::size_t size() const { return size_; }
 
 private:
