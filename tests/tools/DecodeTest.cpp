@@ -1,6 +1,5 @@
-// One Decoder formats value after value, and one record argument after argument; each
-// must format as if it were the first: on a stream in a new stream's state, in a buffer
-// that is zero outside the value.
+// One Decoder formats value after value; each must format as if it were the first:
+// on a stream in a new stream's state, in a buffer that is zero outside the value.
 #include "tools/ovfmt/Decode.h"
 
 #include <gtest/gtest.h>
