@@ -15,10 +15,10 @@
 namespace Orvane::host {
 
 /// True when inserting an unsigned number into `os` prints just its decimal digits:
-/// the base is decimal (showpos and showbase unset, as they are never looked at
-/// otherwise), the width is 0 and the stream's locale is the classic one. The locale
-/// check is remembered in the stream (an iword) and forgotten when the stream is
-/// imbued or copyfmt'ed, so it costs a full comparison only once per stream.
+/// the base is decimal with neither showpos nor showbase set, the width is 0 and the
+/// stream's locale is the classic one. The locale check is remembered in the stream
+/// (an iword) and forgotten when the stream is imbued or copyfmt'ed, so it costs a full
+/// comparison only once per stream.
 bool insertsPlainDecimal(std::ostream& os);
 
 /// Has the same effect on `os` as `os << value`: the same characters, the same
