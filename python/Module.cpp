@@ -49,12 +49,13 @@ py::str toStr(std::string_view text) {
   return py::reinterpret_steal<py::str>(str);
 }
 
-/// resolve() with `where` put before the problem of an id it cannot resolve.
-ovfmt::ArgumentType resolveAt(std::string_view id, const std::string& where) {
+/// resolve() with `where()` put before the problem of an id it cannot resolve (built
+/// only then: most ids resolve).
+template <class Where> ovfmt::ArgumentType resolveAt(std::string_view id, const Where& where) {
   try {
     return resolve(id);
   } catch (const UnknownIdError& error) {
-    throw UnknownIdError(where + error.what());
+    throw UnknownIdError(where() + error.what());
   }
 }
 
@@ -101,7 +102,8 @@ py::object formatRecordOf(const IdList& list, const py::buffer& data,
   if (layout) filled = parseTemplate(*layout, ids.size());
   std::vector<ovfmt::ArgumentType> types;
   for (std::size_t i = 0; i < ids.size(); ++i)
-    types.push_back(resolveAt(ids[i], ovfmt::argumentPrefix(i + 1, ids.size(), ids[i])));
+    types.push_back(
+        resolveAt(ids[i], [&] { return ovfmt::argumentPrefix(i + 1, ids.size(), ids[i]); }));
 
   const Bytes bytes(data);
   std::vector<std::string> texts;
@@ -137,7 +139,7 @@ void addItem(ValueBatch& batch, py::handle item, std::size_t index) {
   const char* utf8 = PyUnicode_AsUTF8AndSize(id.ptr(), &size);
   if (!utf8) throw py::error_already_set();
   const ovfmt::ArgumentType type =
-      resolveAt({utf8, static_cast<std::size_t>(size)}, itemPrefix(index));
+      resolveAt({utf8, static_cast<std::size_t>(size)}, [&] { return itemPrefix(index); });
   batch.add(*type.formatter, type.id, Bytes(data).span());
 }
 
