@@ -26,6 +26,8 @@ unsigned measure(const ovfmt::ArgumentType& type, std::span<const unsigned char>
   buffer.setSize(bytes.size());
   ovfmt::Argument value;
   value.id = type.id;
+  // Nothing is formatted: the length stands in for what was consumed, so that only the
+  // length's own faults (invalid, past the end) show.
   value.length = value.consumed = type.formatter->length(buffer.data());
   const ovfmt::Fault fault = ovfmt::faultOf(value, bytes.size());
   if (fault != ovfmt::Fault::None)
