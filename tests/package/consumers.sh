@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # Installs BUILD and moves the tree (nothing installed may depend on where it was made),
-# builds the consumer with find_package and with pkg-config, runs both and Orvane::ovfmt,
-# and the Python module where PYTHON, its interpreter, is not empty.
+# builds the consumer with find_package and with pkg-config, runs both, Orvane::ovfmt and orvane.
 set -euo pipefail
 build=$1 here=$(cd "$(dirname "$0")" && pwd) work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT && cd "$work"

