@@ -171,6 +171,23 @@ def ovfmt_block(results):
     return "\n".join(lines)
 
 
+def python_block(results):
+    python, o = results.get("python"), results["ovfmt"]
+    if not python:
+        return "(the Python module was not built for the interpreter that ran the benchmarks)"
+    measured = [("`ovfmt --batch`: hex lines in, text lines out", o["runs"], o["lines"]),
+                ("`orvane.format_many`: bytes in, a list of str out", python["runs"],
+                 python["values"])]
+    rows = []
+    for what, runs, values in measured:
+        cpu = statistics.median(run["cpu"] for run in runs)
+        wall = statistics.median(run["wall"] for run in runs)
+        rows.append((what, f"{values / cpu / 1e6:.2f} M", f"{cpu:.2f}", f"{wall:.2f}"))
+    return (f"The same {python['values']:,} values of the generated trace, one thread, median "
+            f"of {len(python['runs'])} runs each:\n\n" +
+            table(["Run", "Values per CPU second", "CPU s", "Wall s"], rows))
+
+
 def load_block(results):
     load = results["load"]
     runs = sorted(load["runs_ns"])
@@ -189,7 +206,7 @@ def load_block(results):
 
 
 BLOCKS = {"conditions": conditions_block, "per-id": per_id_block, "furthest": furthest_block,
-          "mixed": mixed_block, "ovfmt": ovfmt_block, "load": load_block}
+          "mixed": mixed_block, "ovfmt": ovfmt_block, "python": python_block, "load": load_block}
 
 
 def fill(document, results):

@@ -144,6 +144,26 @@ def ovfmt_throughput(build, trace, out):
             "profile": profile}
 
 
+def format_many_throughput(build, trace):
+    """CPU and wall time of the Python module's format_many over every value of the trace,
+    given as bytes (the hex is parsed beforehand, untimed); None where the module was not
+    built for this interpreter."""
+    sys.path.insert(0, str(build / "lib/python3/dist-packages"))
+    try:
+        import orvane
+    except ImportError:
+        return None
+    with open(trace) as lines:
+        items = [(type_id, bytes.fromhex(hex_bytes))
+                 for type_id, hex_bytes in (line.split(maxsplit=1) for line in lines)]
+    runs = []
+    for _ in range(OVFMT_RUNS):
+        wall, cpu = time.perf_counter(), time.process_time()
+        orvane.format_many(items)
+        runs.append({"wall": time.perf_counter() - wall, "cpu": time.process_time() - cpu})
+    return {"values": len(items), "runs": runs}
+
+
 def load_cost(build, out):
     """Load time of the plug-in over repeated processes, and a profile of one load."""
     command = [str(build / "bin/load_bench"), str(build / "lib/orvane/libKaMessageFormatter.so")]
@@ -172,6 +192,8 @@ def main():
     results["format"] = format_benchmarks(args.build, trace, out)
     print("run.py: ovfmt --batch throughput and profile")
     results["ovfmt"] = ovfmt_throughput(args.build, trace, out)
+    print("run.py: orvane.format_many throughput")
+    results["python"] = format_many_throughput(args.build, trace)
     print("run.py: plug-in load cost")
     results["load"] = load_cost(args.build, out)
     results["conditions"]["load_after"] = os.getloadavg()[0]

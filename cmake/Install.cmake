@@ -7,7 +7,7 @@
 #                                             Orvane::KaMessageFormatter, Orvane::ovfmt
 #   LIBDIR/pkgconfig/                         orvane-host.pc and orvane.pc
 #   share/man/man1/ovfmt.1                    generated from ovfmt --help and --version
-#   ORVANE_INSTALL_PYTHONDIR                  reserved for the Python module
+#   ORVANE_INSTALL_PYTHONDIR/orvane.*.so      the Python module (python/), when built
 # Every path inside the installed files is relative to the prefix, so an installed tree
 # still works after it is moved.
 include(CMakePackageConfigHelpers)
@@ -15,8 +15,7 @@ include(CMakePackageConfigHelpers)
 set(ORVANE_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Orvane")
 set(ORVANE_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 set(ORVANE_INCLUDE_DIR "${CMAKE_INSTALL_INCLUDEDIR}/orvane")
-# The Python bindings are to install their module here (the package takes it along
-# with everything else installed).
+# The Python module installs here (python/CMakeLists.txt), and the package with it.
 set(ORVANE_INSTALL_PYTHONDIR "lib/python3/dist-packages" CACHE STRING
     "Where the Python module installs, relative to the prefix")
 

@@ -1,8 +1,8 @@
 # The Debian package and tarball: `cpack -G DEB` (or TGZ) in a build folder after the
 # build. One package holds everything `cmake --install` lays out (cmake/Install.cmake):
-# the plug-in, the host library, ovfmt and its manual page, the headers, and the CMake
-# and pkg-config files. The Python module joins it once it is built (installed into
-# ORVANE_INSTALL_PYTHONDIR; it will add python3 to CPACK_DEBIAN_PACKAGE_DEPENDS).
+# the plug-in, the host library, ovfmt and its manual page, the headers, the CMake and
+# pkg-config files, and the Python module when it is built (in ORVANE_INSTALL_PYTHONDIR;
+# the package then depends on the python3 it was built for).
 set(CPACK_PACKAGE_NAME orvane)
 set(CPACK_PACKAGE_VENDOR "Orvane developers")
 set(CPACK_PACKAGE_CONTACT "Orvane developers <orvane-dev@localhost>")
@@ -20,5 +20,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 # own link to the host library is resolved inside the package.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+if(ORVANE_PYTHON_DEB_DEPENDS)
+  set(CPACK_DEBIAN_PACKAGE_DEPENDS "${ORVANE_PYTHON_DEB_DEPENDS}")
+endif()
 
 include(CPack)
