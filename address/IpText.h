@@ -4,9 +4,10 @@
 // IPv4: the four octets in decimal joined by "." (10.0.0.1).
 // IPv6: the eight 16-bit groups in lowercase hex without leading zeros, joined by ":".
 // The longest run of two or more zero groups becomes "::", the first of equal-length
-// runs winning; a lone zero group prints as "0". Two forms end in the IPv4 text of the
-// last four bytes: "::ffff:" when that run is groups 0-4 and group 5 is ffff
-// (::ffff:10.0.0.1), and "::" when it is exactly groups 0-5 (::10.0.0.1; ::1 stays ::1).
+// runs winning; a lone zero group prints as "0". Two forms end in the dotted IPv4 text
+// of the last four bytes: "::ffff:" when the longest run is exactly groups 0-4 and
+// group 5 is ffff (::ffff:10.0.0.1), and "::" when it is exactly groups 0-5
+// (::10.0.0.1, while ::1, whose run is groups 0-6, keeps the hex form).
 #pragma once
 
 #include <cstddef>
