@@ -23,9 +23,9 @@ using namespace Orvane;
 constexpr int kExitOk = 0, kExitValueFailed = 1, kExitUsage = 2;
 
 const char kUsage[] =
-    "usage: ovfmt [--plugin PATH]... [--counts] ID HEX...\n"
-    "       ovfmt [--plugin PATH]... [--counts] --batch [FILE|-]\n"
-    "       ovfmt [--plugin PATH]... --list\n"
+    "Usage: ovfmt [--plugin PATH]... [--counts] ID HEX...\n"
+    "  or:  ovfmt [--plugin PATH]... [--counts] --batch [FILE|-]\n"
+    "  or:  ovfmt [--plugin PATH]... --list\n"
     "\n"
     "Formats binary trace values through the registered formatter plug-ins.\n"
     "  ID HEX...      format one value: its type id, then its bytes as pairs of hex digits\n"
@@ -38,6 +38,8 @@ const char kUsage[] =
     "  --plugin PATH  load this plug-in (a .so, or a directory of them) instead of the\n"
     "                 default: every .so in $OVFMT_PLUGIN_DIR, else the one installed\n"
     "                 beside ovfmt\n"
+    "  --help         print this help and exit\n"
+    "  --version      print the version and exit\n"
     "Exit status: 0 every value printed, 1 a value failed, 2 usage or plug-in error.\n";
 
 struct Options {
@@ -186,6 +188,9 @@ int parse(int argc, char** argv, Options& options) {
       options.value.push_back(arg);
     } else if (arg == "--help" || arg == "-h") {
       std::cout << kUsage;
+      return kExitOk;
+    } else if (arg == "--version") {
+      std::cout << "ovfmt " ORVANE_VERSION "\n";
       return kExitOk;
     } else if (arg == "--plugin") {
       if (++i == argc) return usageError("--plugin needs a path");
