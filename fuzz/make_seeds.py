@@ -2,8 +2,10 @@
 """Writes a seed corpus for the formatter fuzzer from the project's test vectors.
 
 Vectors are the "ID HEX..." lines of examples/demo.txt and the {"ID", "hex", ...}
-cases of the tests. Writes OUT/<ID>/<n> (the value alone, for ORVANE_FUZZ_ID runs) and
-OUT/all/<ID>-<n> (the id's index among the sorted demo ids, then the value).
+cases of the tests. Writes OUT/<ID>/<n> (the value alone, for ORVANE_FUZZ_ID runs),
+OUT/all/<ID>-<n> (the id's index among the sorted demo ids, then the value) and
+OUT/records/<n> (two consecutive demo values as one record, for ORVANE_FUZZ_RECORDS runs:
+the count byte 1, both ids' indexes, then both values).
 """
 import pathlib
 import re
@@ -12,11 +14,15 @@ import sys
 CASE = re.compile(r'\{"([A-Za-z0-9]+)",\s*"([0-9a-fA-F :]*)"')
 
 
-def vectors(demo, tests_dir):
+def demo_vectors(demo):
     for line in demo.read_text().splitlines():
         words = line.split()
         if words and not line.startswith("#"):
             yield words[0], "".join(words[1:])
+
+
+def vectors(demo, tests_dir):
+    yield from demo_vectors(demo)
     for source in sorted(tests_dir.rglob("*.cpp")):
         for match in CASE.finditer(source.read_text()):
             yield match.group(1), match.group(2)
@@ -38,6 +44,14 @@ def main():
         (out / name).mkdir(exist_ok=True)
         (out / name / str(n)).write_bytes(value)
         (out / "all" / f"{name}-{n}").write_bytes(bytes([index[name]]) + value)
+    write_records(out / "records", list(demo_vectors(demo)), index)
+
+
+def write_records(folder, values, index):
+    folder.mkdir(exist_ok=True)
+    for n, ((first, hex1), (second, hex2)) in enumerate(zip(values, values[1:])):
+        record = bytes([1, index[first], index[second]]) + bytes.fromhex(hex1 + hex2)
+        (folder / str(n)).write_bytes(record)
 
 
 if __name__ == "__main__":

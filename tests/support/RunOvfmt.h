@@ -17,4 +17,16 @@ struct RunResult {
 RunResult runOvfmt(const std::vector<std::string>& args, const std::string& input = "",
                    const std::vector<std::string>& environment = {});
 
+/// One run of ovfmt and what it must give.
+struct CliCase {
+  std::vector<std::string> args;
+  std::string input;
+  std::string out;
+  std::string errContains; ///< empty: stderr must be empty
+  int status;
+};
+
+/// Runs every case, expecting its output, error text and status.
+void expectRuns(const std::vector<CliCase>& cases);
+
 } // namespace Orvane::test
