@@ -8,6 +8,9 @@
 // of the last four bytes: "::ffff:" when the longest run is exactly groups 0-4 and
 // group 5 is ffff (::ffff:10.0.0.1), and "::" when it is exactly groups 0-5
 // (::10.0.0.1, while ::1, whose run is groups 0-6, keeps the hex form).
+//
+// Internal to the plug-in and not exported: other programs get this text through
+// formatIpAddr and the address formatters.
 #pragma once
 
 #include <cstddef>
