@@ -1,31 +1,39 @@
 #include "bgp/AfiSafi.h"
 
 #include "registry/Bytes.h"
+#include "registry/TextRun.h"
 
 #include <cstdint>
 
 namespace Orvane {
+namespace {
 
-std::ostream& formatAfi(unsigned short afi, std::ostream& os) {
-  printNameOr(os, afiNames, afi, "unknown");
-  return os;
+// The bracketed forms, gathered into `text` as one piece.
+void printAfiSafi(AfiSafi afiSafi, TextRun& text) {
+  text << "<AFI:" << afiName(afiSafi.afi) << ">/<SAFI:" << safiName(afiSafi.safi) << ">";
+}
+void printNlriType(NlriType type, TextRun& text) {
+  text << "<NLRI:" << nameOr(nlriTypeNames, type, "unknown") << ">";
 }
 
-std::ostream& formatSafi(unsigned short safi, std::ostream& os) {
-  printNameOr(os, safiNames, safi, "unknown");
-  return os;
-}
+} // namespace
+
+const char* afiName(unsigned short afi) { return nameOr(afiNames, afi, "unknown"); }
+const char* safiName(unsigned short safi) { return nameOr(safiNames, safi, "unknown"); }
+
+std::ostream& formatAfi(unsigned short afi, std::ostream& os) { return os << afiName(afi); }
+std::ostream& formatSafi(unsigned short safi, std::ostream& os) { return os << safiName(safi); }
 
 std::ostream& formatAfiSafi(AfiSafi afiSafi, std::ostream& os) {
-  os << "<AFI:";
-  formatAfi(afiSafi.afi, os) << ">/<SAFI:";
-  return formatSafi(afiSafi.safi, os) << ">";
+  TextRun text(os);
+  printAfiSafi(afiSafi, text);
+  return text.flush();
 }
 
 std::ostream& formatNlriType(NlriType type, std::ostream& os) {
-  os << "<NLRI:";
-  printNameOr(os, nlriTypeNames, type, "unknown");
-  return os << ">";
+  TextRun text(os);
+  printNlriType(type, text);
+  return text.flush();
 }
 
 AfiSafi bgpRouteKeyParseNlriType(unsigned char type) {
@@ -34,15 +42,17 @@ AfiSafi bgpRouteKeyParseNlriType(unsigned char type) {
 }
 
 unsigned formatAfi(const unsigned char* p, std::ostream& os) {
-  os << "<AFI:";
-  formatAfi(load<uint16_t>(p), os) << ">";
+  TextRun text(os);
+  text << "<AFI:" << afiName(load<uint16_t>(p)) << ">";
+  text.flush();
   return lengthAfi(p);
 }
 unsigned lengthAfi(const unsigned char*) { return 2; }
 
 unsigned formatSafiLegacy(const unsigned char* p, std::ostream& os) {
-  os << "<SAFI:";
-  formatSafi(p[0], os) << ">";
+  TextRun text(os);
+  text << "<SAFI:" << safiName(p[0]) << ">";
+  text.flush();
   return lengthSafi(p);
 }
 unsigned lengthSafi(const unsigned char*) { return 1; }
@@ -65,10 +75,16 @@ unsigned lengthNlriType(const unsigned char*) { return 1; }
 
 unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os) {
   const NlriType type = static_cast<NlriType>(p[0]);
-  if (auto it = nlriTypeToAfiSafi.find(type); it != nlriTypeToAfiSafi.end())
-    formatAfiSafi(it->second, formatNlriType(type, os));
-  else
-    os << "<NLRI:unknown-" << static_cast<unsigned>(type) << "><AfiSafi:unknown>";
+  TextRun text(os);
+  if (auto it = nlriTypeToAfiSafi.find(type); it != nlriTypeToAfiSafi.end()) {
+    printNlriType(type, text);
+    printAfiSafi(it->second, text);
+  } else {
+    text << "<NLRI:unknown-";
+    text.flush() << static_cast<unsigned>(type);
+    text << "><AfiSafi:unknown>";
+  }
+  text.flush();
   return lengthNlriType2AfiSafi(p);
 }
 unsigned lengthNlriType2AfiSafi(const unsigned char*) { return 1; }

@@ -319,6 +319,11 @@ extern const NameTable nlriTypeNames;
 /// The (AFI, SAFI) each NlriType implies; built at load time (KaMessageFormatter.cpp).
 extern const std::unordered_map<unsigned, AfiSafi> nlriTypeToAfiSafi;
 
+/// The AFI's name, or "unknown".
+const char* afiName(unsigned short afi);
+/// The SAFI's name (private SAFIs too), or "unknown".
+const char* safiName(unsigned short safi);
+
 /// Writes the AFI's name, or "unknown". No brackets. Returns `os`.
 ORVANE_API std::ostream& formatAfi(unsigned short afi, std::ostream& os);
 /// Writes the SAFI's name (private SAFIs too), or "unknown". No brackets. Returns `os`.

@@ -1,6 +1,7 @@
 #include "bgp/EvpnL2Attrs.h"
 
 #include "registry/Bytes.h"
+#include "registry/TextRun.h"
 
 #include <cstdint>
 #include <iterator>
@@ -37,13 +38,16 @@ const char* flagLetter(uint32_t flags, unsigned bit, const char* set, const char
 }
 
 // ";" and the code's name, or ";what(N)" when the table has none; nothing for code 0.
-void printCode(std::ostream& os, const NameTable& names, unsigned code, const char* what) {
+void printCode(TextRun& text, const NameTable& names, unsigned code, const char* what) {
   if (code == 0) return;
-  os << ";";
-  if (auto it = names.find(code); it != names.end())
-    os << it->second;
-  else
-    os << what << "(" << code << ")";
+  text << ";";
+  if (auto it = names.find(code); it != names.end()) {
+    text << it->second;
+  } else {
+    text << what << "(";
+    text.flush() << code;
+    text << ")";
+  }
 }
 
 } // namespace
@@ -57,12 +61,14 @@ unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
                            const NameTable& vlanNormalizationNames, bool printF) {
   const uint32_t flags = load<uint32_t>(p);
   if (!(flags & kPresentBit)) return 4;
-  os << ", evpnL2Attrs:" << flagLetter(flags, 3, "B", "b") << flagLetter(flags, 2, "P", "p")
-     << flagLetter(flags, 1, "C", "c");
-  if (printF) os << flagLetter(flags, 4, "F", "f");
-  printCode(os, fxcModeNames, (flags >> 8) & 0xFF, "FxcMode");
-  printCode(os, vlanNormalizationNames, (flags >> 16) & 0xFF, "VlanNormalization");
-  os << ";mtu=" << load<uint32_t>(p + 4);
+  TextRun text(os);
+  text << ", evpnL2Attrs:" << flagLetter(flags, 3, "B", "b") << flagLetter(flags, 2, "P", "p")
+       << flagLetter(flags, 1, "C", "c");
+  if (printF) text << flagLetter(flags, 4, "F", "f");
+  printCode(text, fxcModeNames, (flags >> 8) & 0xFF, "FxcMode");
+  printCode(text, vlanNormalizationNames, (flags >> 16) & 0xFF, "VlanNormalization");
+  text << ";mtu=";
+  text.flush() << load<uint32_t>(p + 4);
   return 8;
 }
 

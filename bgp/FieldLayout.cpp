@@ -6,14 +6,22 @@ namespace Orvane {
 
 unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigned start,
                       std::ostream& os) {
+  TextRun text(os);
+  const unsigned off = formatLayout(layout, p, start, text);
+  text.flush();
+  return off;
+}
+
+unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigned start,
+                      TextRun& text) {
   unsigned off = start;
   for (const LabeledField& field : layout.fields) {
     if (!field.kind.format)
       break;
-    os << field.label;
-    off += field.kind.format(at(p, off), os);
+    text << field.label;
+    off += field.kind.format(at(p, off), text.flush());
   }
-  os << layout.closing;
+  text << layout.closing;
   return off;
 }
 

@@ -16,6 +16,7 @@
 #include "address/Ip.h"
 #include "registry/Formatter.h"
 #include "registry/HostInterface.h"
+#include "registry/TextRun.h"
 
 #include <cstddef>
 #include <ostream>
@@ -50,6 +51,11 @@ struct FieldLayout {
 /// Returns the final offset (sums wrap; see Bytes.h for where a wrapped offset points).
 unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigned start,
                       std::ostream& os);
+
+/// formatLayout() within a longer text: each label joins the text pending in `text`
+/// and the closing text is left pending there, for the caller to continue and flush.
+unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigned start,
+                      TextRun& text);
 
 /// The final offset of the same walk as formatLayout, printing nothing.
 unsigned measureLayout(const FieldLayout& layout, const unsigned char* p, unsigned start);

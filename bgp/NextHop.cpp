@@ -122,13 +122,23 @@ const char* vrfKindName(unsigned char kind) {
 } // namespace
 
 std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os) {
-  return os << vrfKindName(p[0]) << "-vrfId:" << load<uint32_t>(p + 1);
+  TextRun text(os);
+  printBgpVrfId(p, text);
+  return os;
+}
+
+void printBgpVrfId(const unsigned char* p, TextRun& text) {
+  text << vrfKindName(p[0]) << "-vrfId:";
+  text.flush() << load<uint32_t>(p + 1);
 }
 
 unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
-  const unsigned count = formatLayout(nextHopLayout(p), p, kBodyOffset, os);
-  os << " (";
-  formatBgpVrfIdForRkAndNh(p, os) << ")";
+  TextRun text(os);
+  const unsigned count = formatLayout(nextHopLayout(p), p, kBodyOffset, text);
+  text << " (";
+  printBgpVrfId(p, text);
+  text << ")";
+  text.flush();
   return count;
 }
 

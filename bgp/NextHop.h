@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -16,6 +17,9 @@ namespace Orvane {
 /// or "unknown" for kinds 4..255), "-vrfId:" and the u32 at p + 1, e.g. L3-vrfId:5.
 /// Returns `os`.
 ORVANE_API std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os);
+/// formatBgpVrfIdForRkAndNh() within a longer text: the kind's name and "-vrfId:" join
+/// the text pending in `text`, which is flushed before the number.
+void printBgpVrfId(const unsigned char* p, TextRun& text);
 
 /// "BNH": the body of the next-hop type at p[5], then " (" VRF ")". Type 0 and types
 /// above 32 print "NULL" as their body. Layer-2 attributes follow the field before

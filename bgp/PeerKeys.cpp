@@ -48,11 +48,13 @@ unsigned lengthBgpPeerKey(const unsigned char* p) {
 }
 
 unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {
-  printRouteKeyFrameOpening(bmpAfi(p), bmpSafi(p), os);
-  const unsigned keyOffset = kBmpNameOffset + formatString(p + kBmpNameOffset, os);
-  os << "; ";
-  const unsigned key = formatBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, os);
-  os << ")> ";
+  TextRun text(os);
+  printRouteKeyFrameOpening(bmpAfi(p), bmpSafi(p), text);
+  const unsigned keyOffset = kBmpNameOffset + formatString(p + kBmpNameOffset, text.flush());
+  text << "; ";
+  const unsigned key = formatBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, text);
+  text << ")> ";
+  text.flush();
   return keyOffset + key;
 }
 unsigned lengthBmpRouteKey(const unsigned char* p) {
@@ -61,9 +63,9 @@ unsigned lengthBmpRouteKey(const unsigned char* p) {
 }
 
 unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os) {
-  os << "<AdjRibin:";
-  printNameOr(os, adjRibinTypeNames, p[0], "unknown");
-  os << ">";
+  TextRun text(os);
+  text << "<AdjRibin:" << nameOr(adjRibinTypeNames, p[0], "unknown") << ">";
+  text.flush();
   return lengthAdjRibinType(p);
 }
 unsigned lengthAdjRibinType(const unsigned char*) { return 1; }

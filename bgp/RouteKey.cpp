@@ -7,10 +7,18 @@ namespace Orvane {
 
 unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            std::ostream& os) {
+  TextRun text(os);
+  const unsigned count = formatBgpRouteKey(afi, safi, key, text);
+  text.flush();
+  return count;
+}
+
+unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
+                           TextRun& text) {
   const RouteKeyLayout* layout = findRouteKeyLayout(afi, safi, key);
   if (!layout)
     return kInvalidLength;
-  return formatLayout(layout->fields, key, layout->firstFieldOffset(), os);
+  return formatLayout(layout->fields, key, layout->firstFieldOffset(), text);
 }
 
 } // namespace Orvane

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -21,5 +22,9 @@ namespace Orvane {
 /// numbers after it in the key print in hex too.
 ORVANE_API unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi,
                                       const unsigned char* key, std::ostream& os);
+/// formatBgpRouteKey() within a longer text: the key's labels join the text pending in
+/// `text`, and its closing text is left pending there (see formatLayout).
+unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
+                           TextRun& text);
 
 } // namespace Orvane

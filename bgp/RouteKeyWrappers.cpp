@@ -25,11 +25,16 @@ KeyRecord readNew(const unsigned char* p) {
 }
 
 unsigned formatRecord(const KeyRecord& record, const unsigned char* p, std::ostream& os) {
-  printRouteKeyFrameOpening(record.family.afi, record.family.safi, os);
-  formatBgpVrfIdForRkAndNh(record.vrf, os) << "; ";
+  TextRun text(os);
+  printRouteKeyFrameOpening(record.family.afi, record.family.safi, text);
+  printBgpVrfId(record.vrf, text);
+  text << "; ";
   const unsigned key =
-      formatBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize, os);
-  os << " nlriType-" << static_cast<unsigned>(record.nlriType) << ")> ";
+      formatBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize, text);
+  text << " nlriType-";
+  text.flush() << static_cast<unsigned>(record.nlriType);
+  text << ")> ";
+  text.flush();
   return record.headerSize + key;
 }
 
@@ -41,9 +46,13 @@ unsigned lengthRecord(const KeyRecord& record, const unsigned char* p) {
 } // namespace
 
 void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, std::ostream& os) {
-  os << " RouteKey<(";
-  formatAfi(afi, os) << "/";
-  formatSafi(safi, os) << ") (";
+  TextRun text(os);
+  printRouteKeyFrameOpening(afi, safi, text);
+  text.flush();
+}
+
+void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, TextRun& text) {
+  text << " RouteKey<(" << afiName(afi) << "/" << safiName(safi) << ") (";
 }
 
 unsigned formatBgpRouteKeyOld(const unsigned char* p, std::ostream& os) {

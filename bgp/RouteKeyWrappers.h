@@ -11,6 +11,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -19,6 +20,8 @@ namespace Orvane {
 /// Writes the opening that the route key frames share: " RouteKey<(" AFI name "/"
 /// SAFI name ") (", the names as formatAfi and formatSafi write them.
 void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, std::ostream& os);
+/// The same opening, left pending in `text` for the text that follows it.
+void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, TextRun& text);
 
 /// "BRK": the stored AFI and SAFI choose the key's layout; the NLRI type is only
 /// printed. Returns 9 + the key's count.

@@ -1,3 +1,4 @@
+#include "host/PlainDecimal.h"
 #include "registry/Bytes.h"
 #include "registry/HostInterface.h"
 
@@ -6,11 +7,11 @@
 namespace Orvane {
 
 unsigned formatU8(const unsigned char* p, std::ostream& os) {
-  os << static_cast<unsigned>(p[0]);
+  host::insertUnsigned(os, static_cast<unsigned>(p[0]));
   return 1;
 }
 unsigned formatU16(const unsigned char* p, std::ostream& os) {
-  os << load<uint16_t>(p);
+  host::insertUnsigned(os, load<uint16_t>(p));
   return 2;
 }
 unsigned formatU16Hex(const unsigned char* p, std::ostream& os) {
@@ -18,7 +19,7 @@ unsigned formatU16Hex(const unsigned char* p, std::ostream& os) {
   return 2;
 }
 unsigned formatU32(const unsigned char* p, std::ostream& os) {
-  os << load<uint32_t>(p);
+  host::insertUnsigned(os, load<uint32_t>(p));
   return 4;
 }
 unsigned formatU32Hex(const unsigned char* p, std::ostream& os) {
@@ -26,7 +27,7 @@ unsigned formatU32Hex(const unsigned char* p, std::ostream& os) {
   return 4;
 }
 unsigned formatU64(const unsigned char* p, std::ostream& os) {
-  os << load<uint64_t>(p);
+  host::insertUnsigned(os, load<uint64_t>(p));
   return 8;
 }
 unsigned formatBool(const unsigned char* p, std::ostream& os) {

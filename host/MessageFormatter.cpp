@@ -1,8 +1,8 @@
+#include "host/FormatterTable.h"
 #include "host/Registry.h"
 #include "registry/HostInterface.h"
 
 #include <algorithm>
-#include <map>
 #include <mutex>
 
 namespace Orvane {
@@ -10,9 +10,10 @@ namespace {
 
 // Plug-ins register from their load-time initialisers, which may run before this
 // library's own globals are constructed; a function-local static avoids that race.
+// Registrations are serialised by the mutex; lookups go to the table without it.
 struct RegistryState {
   std::mutex mutex;
-  std::map<std::string, host::FormatterPair, std::less<>> pairs;
+  host::FormatterTable table;
   std::vector<host::RegistrationCall> log;
 };
 
@@ -26,34 +27,27 @@ RegistryState& state() {
 void MessageFormatter::addNewFormattersById(std::string id, FormatFn fn) {
   auto& s = state();
   std::lock_guard lock(s.mutex);
-  s.log.push_back({id, host::RegistrationCall::Kind::Format});
-  auto& slot = s.pairs[std::move(id)].format;
-  if (!slot) slot = std::move(fn);
+  s.table.setFormat(id, std::move(fn));
+  s.log.push_back({std::move(id), host::RegistrationCall::Kind::Format});
 }
 
 void MessageFormatter::addNewLengthById(std::string id, LengthFn fn) {
   auto& s = state();
   std::lock_guard lock(s.mutex);
-  s.log.push_back({id, host::RegistrationCall::Kind::Length});
-  auto& slot = s.pairs[std::move(id)].length;
-  if (!slot) slot = std::move(fn);
+  s.table.setLength(id, std::move(fn));
+  s.log.push_back({std::move(id), host::RegistrationCall::Kind::Length});
 }
 
 namespace host {
 
-const FormatterPair* findFormatter(std::string_view id) {
-  auto& s = state();
-  std::lock_guard lock(s.mutex);
-  auto it = s.pairs.find(id);
-  // Entries are never erased, so the pointer stays valid after the lock is released.
-  return it == s.pairs.end() ? nullptr : &it->second;
-}
+const FormatterPair* findFormatter(std::string_view id) { return state().table.find(id); }
 
 std::vector<std::string> registeredIds() {
   auto& s = state();
-  std::lock_guard lock(s.mutex);
-  std::vector<std::string> ids;
-  for (const auto& entry : s.pairs) ids.push_back(entry.first);
+  std::unique_lock lock(s.mutex);
+  std::vector<std::string> ids = s.table.ids();
+  lock.unlock();
+  std::sort(ids.begin(), ids.end());
   return ids;
 }
 
@@ -61,6 +55,12 @@ std::vector<RegistrationCall> registrationLog() {
   auto& s = state();
   std::lock_guard lock(s.mutex);
   return s.log;
+}
+
+std::size_t registrationCount() {
+  auto& s = state();
+  std::lock_guard lock(s.mutex);
+  return s.log.size();
 }
 
 } // namespace host

@@ -23,14 +23,14 @@ bool firstLoad(void* handle) {
 } // namespace
 
 std::vector<LoadError> loadPlugin(const std::string& path) {
-  const auto callsBefore = registrationLog().size();
+  const auto callsBefore = registrationCount();
   // The handle is deliberately never closed: the registry holds the plug-in's functions.
   void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (!handle) {
     const char* why = dlerror();
     return {{path, why ? why : "the dynamic loader rejected it"}};
   }
-  if (firstLoad(handle) && registrationLog().size() == callsBefore)
+  if (firstLoad(handle) && registrationCount() == callsBefore)
     return {{path, "it registered no formatter (not a formatter plug-in)"}};
   return {};
 }

@@ -4,6 +4,7 @@
 #include "registry/Export.h"
 #include "registry/Formatter.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,7 +25,9 @@ struct RegistrationCall {
   Kind kind;
 };
 
-/// The pair registered for `id`, or nullptr when the id is unknown.
+/// The pair registered for `id`, or nullptr when the id is unknown. Takes no lock and
+/// is safe while a plug-in registers; the pair it returns never changes afterwards (a
+/// function registered later for the same id is found by the next lookup).
 ORVANE_API const FormatterPair* findFormatter(std::string_view id);
 
 /// Every registered id, sorted.
@@ -32,5 +35,9 @@ ORVANE_API std::vector<std::string> registeredIds();
 
 /// Every registration call received so far, duplicates included, in order.
 ORVANE_API std::vector<RegistrationCall> registrationLog();
+
+/// The number of registration calls received so far: registrationLog().size()
+/// without the copy.
+std::size_t registrationCount();
 
 } // namespace Orvane::host

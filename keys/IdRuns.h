@@ -1,6 +1,8 @@
 // Printing a set of small integer ids as runs: "(0,2-4,127)".
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <ostream>
 
@@ -29,8 +31,22 @@ public:
 
   /// Visits the 64 ids of `word`, bit i (least significant first) standing for
   /// `base + i`.
+  ///
+  /// Only the first id of each stretch of equal bits can print or close anything:
+  /// the rest of a stretch of set bits only lengthens the run, and the rest of a
+  /// stretch of clear bits closes a run that is already closed. So the word is walked
+  /// a stretch at a time rather than a bit at a time.
   void visitWord(unsigned base, uint64_t word) {
-    for (unsigned bit = 0; bit < 64; ++bit) visit(base + bit, (word >> bit) & 1);
+    for (unsigned bit = 0; bit < 64;) {
+      const uint64_t rest = word >> bit;
+      const bool set = rest & 1;
+      const unsigned stretch =
+          set ? std::countr_one(rest) : std::min(std::countr_zero(rest), 64 - int(bit));
+      visit(base + bit, set);
+      if (set)
+        runLength += stretch - 1;
+      bit += stretch;
+    }
   }
 
   /// Ends the current run: a run of two or more prints "-" and `lastId`, a run of one

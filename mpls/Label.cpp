@@ -6,6 +6,7 @@
 #include "registry/Fields.h"
 #include "registry/Formatter.h"
 #include "registry/HostInterface.h"
+#include "registry/TextRun.h"
 
 #include <cstdint>
 #include <iterator>
@@ -42,17 +43,31 @@ void printEvpnLabelWord(uint32_t word, std::ostream& os) {
   }
 }
 
+// formatMplsLabel() within a longer text: a name joins the pending text, a number is
+// inserted after it.
+void printMplsLabel(unsigned label, TextRun& text) {
+  if (label == kImplicitNullLabel)
+    text << "ImplicitNull";
+  else if (label == kNoLabel)
+    text << "Null";
+  else
+    text.flush() << label;
+}
+
 } // namespace
 
 std::ostream& formatMplsLabel(unsigned int label, std::ostream& os) {
-  if (label == kImplicitNullLabel) return os << "ImplicitNull";
-  if (label == kNoLabel) return os << "Null";
-  return os << label;
+  TextRun text(os);
+  printMplsLabel(label, text);
+  return text.flush();
 }
 
 unsigned formatMplsLabel(const unsigned char* p, std::ostream& os) {
-  os << "MplsLabel(";
-  formatMplsLabel(load<uint32_t>(p), os) << ")";
+  TextRun text(os);
+  text << "MplsLabel(";
+  printMplsLabel(load<uint32_t>(p), text);
+  text << ")";
+  text.flush();
   return lengthMplsLabel(p);
 }
 unsigned lengthMplsLabel(const unsigned char*) { return 4; }
@@ -62,10 +77,12 @@ unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os) {
   if (count > kMaxStackLabels) return kInvalidLength;
   const char* operation = labelOperationName(p[0]);
   if (!operation) return kInvalidLength;
-  os << operation << "[";
+  TextRun text(os);
+  text << operation << "[";
   for (unsigned i = 0; i < count; ++i)
-    formatMplsLabel(load<uint32_t>(p + 2 + 4 * i), i ? os << ", " : os);
-  os << "]";
+    printMplsLabel(load<uint32_t>(p + 2 + 4 * i), i ? text << ", " : text);
+  text << "]";
+  text.flush();
   return lengthMplsLabelOperation(p);
 }
 unsigned lengthMplsLabelOperation(const unsigned char* p) {

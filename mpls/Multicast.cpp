@@ -5,6 +5,7 @@
 #include "address/Ip.h"
 #include "registry/Bytes.h"
 #include "registry/Fields.h"
+#include "registry/TextRun.h"
 
 #include <cstdint>
 #include <cstring>
@@ -49,9 +50,11 @@ unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
 unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
   // mRouteFlags may be replaced by anyone holding the exported symbol, so it is read
   // afresh at every step rather than cached.
+  TextRun text(os);
   for (unsigned i = 0; i < std::strlen(mRouteFlags); ++i)
-    if (p[i]) os << mRouteFlags[i];
-  if (!p[kFlagW] && !p[kFlagS]) os << 'E';
+    if (p[i]) text << std::string_view(&mRouteFlags[i], 1);
+  if (!p[kFlagW] && !p[kFlagS]) text << "E";
+  text.flush();
   return lengthMRouteFlags(p);
 }
 unsigned lengthMRouteFlags(const unsigned char*) {

@@ -4,6 +4,7 @@
 #include "registry/Bytes.h"
 #include "registry/HexDigits.h"
 #include "registry/HostInterface.h"
+#include "registry/TextRun.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -20,8 +21,10 @@ constexpr unsigned kPriorityShift = 13;
 void printVlanTag(uint16_t tpid, uint16_t tci, std::ostream& os) {
   os << "(tpid 0x" << std::hex << tpid << std::dec << " vlan " << (tci & kVlanIdMask);
   if (tci >> kPriorityShift) os << " p " << (tci >> kPriorityShift);
-  if (tci & kCfiBit) os << " CFI";
-  os << ") ";
+  TextRun text(os);
+  if (tci & kCfiBit) text << " CFI";
+  text << ") ";
+  text.flush();
 }
 
 // Two lowercase digits a byte, written at once: a padded number insertion per byte

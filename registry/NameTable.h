@@ -18,11 +18,16 @@ inline void printName(std::ostream& os, const NameTable& table, unsigned code) {
     os << code;
 }
 
+/// The name of `code`, or `fallback` when the table has no entry.
+inline const char* nameOr(const NameTable& table, unsigned code, const char* fallback) {
+  auto it = table.find(code);
+  return it != table.end() ? it->second : fallback;
+}
+
 /// Writes the name of `code`, or `fallback` when the table has no entry.
 inline void printNameOr(std::ostream& os, const NameTable& table, unsigned code,
                         const char* fallback) {
-  auto it = table.find(code);
-  os << (it != table.end() ? it->second : fallback);
+  os << nameOr(table, code, fallback);
 }
 
 } // namespace Orvane
