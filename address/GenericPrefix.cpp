@@ -2,11 +2,14 @@
 
 #include "address/AddressFamily.h"
 #include "address/Ip.h"
+#include "address/IpText.h"
 #include "registry/Formatter.h"
 
-#include <arpa/inet.h>
-#include <cstdio>
+#include <algorithm>
+#include <charconv>
 #include <cstring>
+#include <iterator>
+#include <string_view>
 
 namespace Orvane {
 namespace {
@@ -15,10 +18,14 @@ constexpr unsigned char kNoAddressLength = 255;
 // An IPv4 length of 33 is a marker that prints like the 255 one.
 constexpr unsigned char kIpv4MarkerLength = 33;
 
+// "unknown address family(N)", N the tag as a signed byte (255 prints -1), in one piece.
 void printUnknownFamily(std::ostream& os, unsigned char tag) {
-  char text[48];
-  std::snprintf(text, sizeof text, "unknown address family(%hhd)", static_cast<signed char>(tag));
-  os << text;
+  constexpr std::string_view kPrefix = "unknown address family(";
+  char text[kPrefix.size() + sizeof "-128)"];
+  char* out = std::copy(kPrefix.begin(), kPrefix.end(), text);
+  out = std::to_chars(out, std::end(text), static_cast<signed char>(tag)).ptr;
+  *out++ = ')';
+  os << std::string_view(text, out);
 }
 
 } // namespace
@@ -45,9 +52,11 @@ unsigned formatIpGenPrefixOptimized(const unsigned char* p, std::ostream& os) {
     // Only the leading ceil(L/8) bytes are stored; the rest of the address is zero.
     unsigned char address[64] = {};
     std::memcpy(address, p + 2, (bits + 7u) / 8u);
-    char text[48];
-    if (inet_ntop(tag == kFamilyIpv4 ? AF_INET : AF_INET6, address, text, sizeof text))
-      os << text << "/" << static_cast<unsigned>(bits);
+    char text[kIpv6TextSize];
+    const char* end = tag == kFamilyIpv4 ? ipv4Text(address, text, sizeof text)
+                                         : ipv6Text(address, text, sizeof text);
+    if (end)
+      os << std::string_view(text, end) << "/" << static_cast<unsigned>(bits);
     else
       os << "unknown";
   } else {

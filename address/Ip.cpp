@@ -1,18 +1,22 @@
 #include "address/Ip.h"
 
+#include "address/IpText.h"
 #include "registry/Bytes.h"
 
-#include <arpa/inet.h>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace Orvane {
 namespace {
 
-void printConverted(std::ostream& os, int family, const unsigned char* bytes) {
-  char text[48];
-  const char* converted = inet_ntop(family, bytes, text, sizeof text);
-  os << (converted ? converted : "unknown");
+// Prints the text a converter wrote into `text` up to `end`, or "unknown" when it failed
+// (end is null).
+void printConverted(std::ostream& os, const char* text, const char* end) {
+  if (end)
+    os << std::string_view(text, end);
+  else
+    os << "unknown";
 }
 
 // Network-order bytes of a native-order u32 IPv4 address.
@@ -21,16 +25,19 @@ uint32_t networkOrder(const unsigned char* p) { return __builtin_bswap32(load<ui
 } // namespace
 
 void printIpv4Bytes(std::ostream& os, const unsigned char* bytes) {
-  printConverted(os, AF_INET, bytes);
+  char text[kIpv4TextSize];
+  printConverted(os, text, ipv4Text(bytes, text, sizeof text));
 }
 
 void printIpv6Bytes(std::ostream& os, const unsigned char* bytes) {
-  printConverted(os, AF_INET6, bytes);
+  char text[kIpv6TextSize];
+  printConverted(os, text, ipv6Text(bytes, text, sizeof text));
 }
 
 char* formatIpAddr(const unsigned char* p, char* buf, unsigned len) {
   const uint32_t address = networkOrder(p);
-  if (!inet_ntop(AF_INET, &address, buf, len)) std::strncpy(buf, "unknown", len);
+  if (!ipv4Text(reinterpret_cast<const unsigned char*>(&address), buf, len))
+    std::strncpy(buf, "unknown", len);
   return buf;
 }
 

@@ -1,17 +1,13 @@
 #include "address/SystemId.h"
 
+#include "address/HexGroups.h"
 #include "registry/Fields.h"
 #include "registry/HostInterface.h"
-
-#include <cstdio>
 
 namespace Orvane {
 
 unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%02hhx%02hhx.%02hhx%02hhx.%02hhx%02hhx", p[0], p[1], p[2],
-                p[3], p[4], p[5]);
-  os << text;
+  printHexGroups(os, p, 6, 2, '.');
   return lengthIsisSystemId(p);
 }
 unsigned lengthIsisSystemId(const unsigned char*) { return 6; }
