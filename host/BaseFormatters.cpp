@@ -1,17 +1,17 @@
-#include "host/PlainDecimal.h"
 #include "registry/Bytes.h"
 #include "registry/HostInterface.h"
+#include "registry/PlainDecimal.h"
 
 #include <cstdint>
 
 namespace Orvane {
 
 unsigned formatU8(const unsigned char* p, std::ostream& os) {
-  host::insertUnsigned(os, static_cast<unsigned>(p[0]));
+  insertUnsigned(os, static_cast<unsigned>(p[0]));
   return 1;
 }
 unsigned formatU16(const unsigned char* p, std::ostream& os) {
-  host::insertUnsigned(os, load<uint16_t>(p));
+  insertUnsigned(os, load<uint16_t>(p));
   return 2;
 }
 unsigned formatU16Hex(const unsigned char* p, std::ostream& os) {
@@ -19,7 +19,7 @@ unsigned formatU16Hex(const unsigned char* p, std::ostream& os) {
   return 2;
 }
 unsigned formatU32(const unsigned char* p, std::ostream& os) {
-  host::insertUnsigned(os, load<uint32_t>(p));
+  insertUnsigned(os, load<uint32_t>(p));
   return 4;
 }
 unsigned formatU32Hex(const unsigned char* p, std::ostream& os) {
@@ -27,7 +27,7 @@ unsigned formatU32Hex(const unsigned char* p, std::ostream& os) {
   return 4;
 }
 unsigned formatU64(const unsigned char* p, std::ostream& os) {
-  host::insertUnsigned(os, load<uint64_t>(p));
+  insertUnsigned(os, load<uint64_t>(p));
   return 8;
 }
 unsigned formatBool(const unsigned char* p, std::ostream& os) {

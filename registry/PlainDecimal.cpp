@@ -1,8 +1,8 @@
-#include "host/PlainDecimal.h"
+#include "registry/PlainDecimal.h"
 
 #include <locale>
 
-namespace Orvane::host {
+namespace Orvane {
 namespace {
 
 // What the stream's iword at localeIndex() knows about its locale. Zero, the value of
@@ -18,27 +18,24 @@ int localeIndex() {
 // (and this callback) of another stream. Either way the remembered answer may be
 // wrong now. Erasing needs nothing: the stream is going away or being overwritten.
 void forgetLocale(std::ios_base::event event, std::ios_base& stream, int index) {
-  if (event != std::ios_base::erase_event)
-    stream.iword(index) = kStale;
+  if (event != std::ios_base::erase_event) stream.iword(index) = kStale;
 }
 
 bool localeIsClassic(std::ostream& os) {
   const int index = localeIndex();
   long& known = os.iword(index);
-  if (known == kClassic || known == kOther)
-    return known == kClassic;
-  if (known == kNotSeen)
-    os.register_callback(forgetLocale, index);
+  if (known == kClassic || known == kOther) return known == kClassic;
+  if (known == kNotSeen) os.register_callback(forgetLocale, index);
   known = os.getloc() == std::locale::classic() ? kClassic : kOther;
   return known == kClassic;
 }
 
 } // namespace
 
-bool insertsPlainDecimal(std::ostream& os) {
+bool formatsPlainDecimal(std::ostream& os) {
   constexpr auto kLookedAt =
       std::ios_base::basefield | std::ios_base::showpos | std::ios_base::showbase;
-  return (os.flags() & kLookedAt) == std::ios_base::dec && os.width() == 0 && localeIsClassic(os);
+  return (os.flags() & kLookedAt) == std::ios_base::dec && localeIsClassic(os);
 }
 
-} // namespace Orvane::host
+} // namespace Orvane
