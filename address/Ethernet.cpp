@@ -4,11 +4,23 @@
 #include "registry/Fields.h"
 
 namespace Orvane {
+namespace {
 
-unsigned formatEth(const unsigned char* p, std::ostream& os) {
-  printHexGroups(os, p, 6, 2, '.');
+// Out is std::ostream or TextRun: the format and the append form.
+template <class Out> unsigned printEth(const unsigned char* p, Out& out) {
+  printHexGroups(out, p, 6, 2, '.');
   return lengthEth(p);
 }
+
+template <class Out> unsigned printEthSegment(const unsigned char* p, Out& out) {
+  printHexGroups(out, p, 10, 2, ':');
+  return lengthEthSegment(p);
+}
+
+} // namespace
+
+unsigned formatEth(const unsigned char* p, std::ostream& os) { return printEth(p, os); }
+unsigned appendEth(const unsigned char* p, TextRun& text) { return printEth(p, text); }
 unsigned lengthEth(const unsigned char*) { return 6; }
 
 unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os) {
@@ -18,13 +30,15 @@ unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os) {
 unsigned lengthEthColonSeparated(const unsigned char*) { return 6; }
 
 unsigned formatEthMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatEth, "/", formatEth);
+  return formatFields(p, os, appendEth, "/", appendEth);
 }
 unsigned lengthEthMask(const unsigned char* p) { return measureFields(p, lengthEth, lengthEth); }
 
 unsigned formatEthSegment(const unsigned char* p, std::ostream& os) {
-  printHexGroups(os, p, 10, 2, ':');
-  return lengthEthSegment(p);
+  return printEthSegment(p, os);
+}
+unsigned appendEthSegment(const unsigned char* p, TextRun& text) {
+  return printEthSegment(p, text);
 }
 unsigned lengthEthSegment(const unsigned char*) { return 10; }
 

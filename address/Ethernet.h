@@ -3,6 +3,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -24,5 +25,9 @@ ORVANE_API unsigned lengthEthMask(const unsigned char* p); ///< 12
 /// "ES": 10 raw bytes as five colon-separated groups of four hex digits. Returns 10.
 ORVANE_API unsigned formatEthSegment(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthEthSegment(const unsigned char* p); ///< 10
+
+/// The append forms (TextRun.h) of formatEth and formatEthSegment.
+unsigned appendEth(const unsigned char* p, TextRun& text);
+unsigned appendEthSegment(const unsigned char* p, TextRun& text);
 
 } // namespace Orvane

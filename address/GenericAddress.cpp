@@ -7,28 +7,41 @@
 namespace Orvane {
 namespace {
 
+// The IPv4 slot, a native-order u32, printed as "I" prints it.
+void printIpv4Slot(const unsigned char* v4, std::ostream& os) { formatIp(v4, os); }
+void printIpv4Slot(const unsigned char* v4, TextRun& text) { appendIp(v4, text); }
+
 // Prints the address whose IPv4 slot is at `v4` and IPv6 slot at `v6` by `tag`.
-void printTagged(std::ostream& os, unsigned char tag, const unsigned char* v4,
-                 const unsigned char* v6) {
+// Out is std::ostream or TextRun (printField).
+template <class Out>
+void printTagged(Out& out, unsigned char tag, const unsigned char* v4, const unsigned char* v6) {
   if (tag == kFamilyIpv4)
-    formatIp(v4, os);
+    printIpv4Slot(v4, out);
   else if (tag == kFamilyIpv6)
-    formatIp6Addr(v6, os);
+    printIpv6Bytes(out, v6);
   else
-    os << "unknown";
+    printField(out, "unknown");
 }
 
 } // namespace
 
-unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os) {
-  printTagged(os, p[0], p + 1, p + 5);
+template <class Out> unsigned printIpGenAddr(const unsigned char* p, Out& out) {
+  printTagged(out, p[0], p + 1, p + 5);
   return lengthIpGenAddr(p);
 }
+unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os) { return printIpGenAddr(p, os); }
+unsigned appendIpGenAddr(const unsigned char* p, TextRun& text) { return printIpGenAddr(p, text); }
 unsigned lengthIpGenAddr(const unsigned char*) { return 21; }
 
-unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os) {
-  printTagged(os, p[0], p + 1, p + 1);
+template <class Out> unsigned printIpGenAddrOpt(const unsigned char* p, Out& out) {
+  printTagged(out, p[0], p + 1, p + 1);
   return lengthIpGenAddrOpt(p);
+}
+unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os) {
+  return printIpGenAddrOpt(p, os);
+}
+unsigned appendIpGenAddrOpt(const unsigned char* p, TextRun& text) {
+  return printIpGenAddrOpt(p, text);
 }
 unsigned lengthIpGenAddrOpt(const unsigned char* p) {
   switch (p[0]) {
@@ -39,14 +52,14 @@ unsigned lengthIpGenAddrOpt(const unsigned char* p) {
 }
 
 unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatIpGenAddr, "/", formatIpGenAddr);
+  return formatFields(p, os, appendIpGenAddr, "/", appendIpGenAddr);
 }
 unsigned lengthIpGenAddrWithFullMask(const unsigned char* p) {
   return measureFields(p, lengthIpGenAddr, lengthIpGenAddr);
 }
 
 unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatIpGenAddrOpt, "/", formatIpGenAddrOpt);
+  return formatFields(p, os, appendIpGenAddrOpt, "/", appendIpGenAddrOpt);
 }
 unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p) {
   return measureFields(p, lengthIpGenAddrOpt, lengthIpGenAddrOpt);

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -19,6 +20,10 @@ ORVANE_API unsigned lengthIpGenAddr(const unsigned char* p); ///< 21
 /// "IGO": as "IG" over the Opt form. Returns 5 (tag 1), 17 (tag 2) or 1.
 ORVANE_API unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIpGenAddrOpt(const unsigned char* p); ///< 5, 17 or 1 by the tag
+
+/// The append forms (TextRun.h) of formatIpGenAddr and formatIpGenAddrOpt.
+unsigned appendIpGenAddr(const unsigned char* p, TextRun& text);
+unsigned appendIpGenAddrOpt(const unsigned char* p, TextRun& text);
 
 /// "IGM": address "/" mask, both generic addresses, e.g. 10.1.0.0/255.255.0.0. Returns 42.
 ORVANE_API unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -23,5 +24,9 @@ ORVANE_API unsigned formatIpGenPrefixOptimized(const unsigned char* p, std::ostr
 /// Tag 0: 2; tag other than 0-2: 0xFFFFFFFF; L 255: 2; else 2 + ceil(L/8) (7 for the
 /// IPv4 L 33 marker).
 ORVANE_API unsigned lengthIpGenPrefixOptimized(const unsigned char* p);
+
+/// The append forms (TextRun.h) of formatIpGenPrefix and formatIpGenPrefixOptimized.
+unsigned appendIpGenPrefix(const unsigned char* p, TextRun& text);
+unsigned appendIpGenPrefixOptimized(const unsigned char* p, TextRun& text);
 
 } // namespace Orvane

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "registry/HexDigits.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 #include <string_view>
@@ -21,12 +22,14 @@ inline char* writeHexGroups(const unsigned char* bytes, int count, int groupByte
   return out;
 }
 
-/// Prints the text of writeHexGroups() for at most 16 bytes as one insertion, so a
-/// width the caller set pads it whole.
-inline void printHexGroups(std::ostream& os, const unsigned char* bytes, int count, int groupBytes,
-                           char separator) {
+/// Prints the text of writeHexGroups() for at most 16 bytes as one field (printField):
+/// one insertion on a stream, so a width the caller set pads it whole.
+template <class Out>
+void printHexGroups(Out& out, const unsigned char* bytes, int count, int groupBytes,
+                    char separator) {
   char text[48];
-  os << std::string_view(text, writeHexGroups(bytes, count, groupBytes, separator, text));
+  printField(out,
+             std::string_view(text, writeHexGroups(bytes, count, groupBytes, separator, text)));
 }
 
 } // namespace Orvane

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -16,6 +17,17 @@ namespace Orvane {
 void printIpv4Bytes(std::ostream& os, const unsigned char* bytes);
 /// Writes 16 raw network-order bytes as an IPv6 address, or "unknown".
 void printIpv6Bytes(std::ostream& os, const unsigned char* bytes);
+/// printIpv4Bytes() and printIpv6Bytes() as fields of a longer text (TextRun::join).
+void printIpv4Bytes(TextRun& text, const unsigned char* bytes);
+void printIpv6Bytes(TextRun& text, const unsigned char* bytes);
+
+/// The append forms (TextRun.h) of formatIp, formatIp6Addr, formatIpPrefix,
+/// formatIp6Prefix and formatIpAndPort.
+unsigned appendIp(const unsigned char* p, TextRun& text);
+unsigned appendIp6Addr(const unsigned char* p, TextRun& text);
+unsigned appendIpPrefix(const unsigned char* p, TextRun& text);
+unsigned appendIp6Prefix(const unsigned char* p, TextRun& text);
+unsigned appendIpAndPort(const unsigned char* p, TextRun& text);
 
 /// Converts the native-order u32 IPv4 address at `p` into `buf` (of `len` bytes) and
 /// returns `buf`; when the conversion fails, copies "unknown" with strncpy. Writes

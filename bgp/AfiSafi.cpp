@@ -81,7 +81,7 @@ unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os) {
     printAfiSafi(it->second, text);
   } else {
     text << "<NLRI:unknown-";
-    text.flush() << static_cast<unsigned>(type);
+    text.number(type);
     text << "><AfiSafi:unknown>";
   }
   text.flush();

@@ -45,7 +45,7 @@ void printCode(TextRun& text, const NameTable& names, unsigned code, const char*
     text << it->second;
   } else {
     text << what << "(";
-    text.flush() << code;
+    text.number(code);
     text << ")";
   }
 }
@@ -68,7 +68,8 @@ unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
   printCode(text, fxcModeNames, (flags >> 8) & 0xFF, "FxcMode");
   printCode(text, vlanNormalizationNames, (flags >> 16) & 0xFF, "VlanNormalization");
   text << ";mtu=";
-  text.flush() << load<uint32_t>(p + 4);
+  text.number(load<uint32_t>(p + 4));
+  text.flush();
   return 8;
 }
 

@@ -19,7 +19,8 @@ unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigne
     if (!field.kind.format)
       break;
     text << field.label;
-    off += field.kind.format(at(p, off), text.flush());
+    const FieldKind& kind = field.kind;
+    off += kind.append ? kind.append(at(p, off), text) : kind.format(at(p, off), text.flush());
   }
   text << layout.closing;
   return off;

@@ -20,18 +20,22 @@
 
 #include <cstddef>
 #include <ostream>
+#include <string_view>
 
 namespace Orvane {
 
-/// How one field is printed and sized: a format function and its length function.
+/// How one field is printed and sized: a format function and its length function, and
+/// the format function's append form (TextRun.h) when it has one, which the walk uses
+/// instead, so that the field's text may join the text around it.
 struct FieldKind {
   FormatPtr format = nullptr;
   LengthPtr length = nullptr;
+  AppendPtr append = nullptr;
 };
 
 /// A field and the literal text printed just before it.
 struct LabeledField {
-  const char* label = nullptr;
+  std::string_view label = "";
   FieldKind kind;
 };
 
@@ -43,7 +47,7 @@ inline constexpr std::size_t kMaxLayoutFields = 6;
 /// closing text.
 struct FieldLayout {
   LabeledField fields[kMaxLayoutFields] = {};
-  const char* closing = "";
+  std::string_view closing = "";
 };
 
 /// Prints each field's label and then the field at the running offset, which begins at
@@ -61,12 +65,14 @@ unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigne
 unsigned measureLayout(const FieldLayout& layout, const unsigned char* p, unsigned start);
 
 // Field kinds shared by the BGP composites.
-inline constexpr FieldKind kIp4Field{formatIp, lengthIp};           ///< native u32 IPv4
-inline constexpr FieldKind kIp6Field{formatIp6Addr, lengthIp6Addr}; ///< 16 raw bytes
-inline constexpr FieldKind kMacField{formatEth, lengthEth};         ///< 001c.73aa.bbcc
-inline constexpr FieldKind kEsiField{formatEthSegment, lengthEthSegment};
-inline constexpr FieldKind kGenAddrField{formatIpGenAddr, lengthIpGenAddr}; ///< 21 bytes
-inline constexpr FieldKind kGenAddrOptField{formatIpGenAddrOpt, lengthIpGenAddrOpt};
+inline constexpr FieldKind kIp4Field{formatIp, lengthIp, appendIp}; ///< native u32 IPv4
+inline constexpr FieldKind kIp6Field{formatIp6Addr, lengthIp6Addr, appendIp6Addr}; ///< 16 bytes
+inline constexpr FieldKind kMacField{formatEth, lengthEth, appendEth}; ///< 001c.73aa.bbcc
+inline constexpr FieldKind kEsiField{formatEthSegment, lengthEthSegment, appendEthSegment};
+inline constexpr FieldKind kGenAddrField{formatIpGenAddr, lengthIpGenAddr,
+                                         appendIpGenAddr}; ///< 21 bytes
+inline constexpr FieldKind kGenAddrOptField{formatIpGenAddrOpt, lengthIpGenAddrOpt,
+                                            appendIpGenAddrOpt};
 inline constexpr FieldKind kU8Field{formatU8, lengthU8};
 inline constexpr FieldKind kU16Field{formatU16, lengthU16};
 inline constexpr FieldKind kU32Field{formatU32, lengthU32};

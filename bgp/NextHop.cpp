@@ -17,11 +17,11 @@ constexpr unsigned kBodyOffset = 6;
 
 // An IPv6 SID and its length byte: address "/" length, 17 bytes.
 unsigned formatSid(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatIp6Addr, "/", formatU8);
+  return formatFields(p, os, appendIp6Addr, "/", formatU8);
 }
 unsigned lengthSid(const unsigned char* p) { return measureFields(p, lengthIp6Addr, lengthU8); }
 
-constexpr FieldKind kEvpnLabelField{formatEvpnLabel, lengthEvpnLabel};
+constexpr FieldKind kEvpnLabelField{formatEvpnLabel, lengthEvpnLabel, appendEvpnLabel};
 constexpr FieldKind kMplsLabelField{static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel};
 constexpr FieldKind kSidField{formatSid, lengthSid};
 
@@ -124,12 +124,12 @@ const char* vrfKindName(unsigned char kind) {
 std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os) {
   TextRun text(os);
   printBgpVrfId(p, text);
-  return os;
+  return text.flush();
 }
 
 void printBgpVrfId(const unsigned char* p, TextRun& text) {
   text << vrfKindName(p[0]) << "-vrfId:";
-  text.flush() << load<uint32_t>(p + 1);
+  text.number(load<uint32_t>(p + 1));
 }
 
 unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {

@@ -18,7 +18,7 @@ namespace Orvane {
 /// Returns `os`.
 ORVANE_API std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os);
 /// formatBgpVrfIdForRkAndNh() within a longer text: the kind's name and "-vrfId:" join
-/// the text pending in `text`, which is flushed before the number.
+/// the text pending in `text`, and so does the number where TextRun::number() allows.
 void printBgpVrfId(const unsigned char* p, TextRun& text);
 
 /// "BNH": the body of the next-hop type at p[5], then " (" VRF ")". Type 0 and types

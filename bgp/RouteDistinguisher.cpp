@@ -16,8 +16,8 @@ uint64_t bits(uint64_t value, unsigned shift, unsigned width) {
 }
 
 // A u32 IPv4 address printed as the "I" id prints it, most significant byte first.
-void printIpv4Number(std::ostream& os, uint32_t address) {
-  formatIp(reinterpret_cast<const unsigned char*>(&address), os);
+void printIpv4Number(TextRun& text, uint32_t address) {
+  appendIp(reinterpret_cast<const unsigned char*>(&address), text);
 }
 
 void printUnknownRouteDistinguisher(uint64_t rd, std::ostream& os) {
@@ -50,55 +50,72 @@ unsigned formatMembershipTarget(const unsigned char* p, std::ostream& os) {
 
 } // namespace
 
-void formatRouteDistinguisher(unsigned long long rd, std::ostream& os) {
+void printRouteDistinguisher(unsigned long long rd, TextRun& text) {
   switch (bits(rd, 48, 16)) {
   case 0: {
     const auto assigned = static_cast<uint32_t>(bits(rd, 0, 32));
-    os << bits(rd, 32, 16) << ":";
+    text.number(bits(rd, 32, 16)).join(":");
     if (assigned <= 0xFFFFFF)
-      os << assigned;
+      text.number(assigned);
     else
-      printIpv4Number(os, assigned);
+      printIpv4Number(text, assigned);
     break;
   }
   case 1:
-    printIpv4Number(os, static_cast<uint32_t>(bits(rd, 16, 32)));
-    os << ":" << bits(rd, 0, 16);
+    printIpv4Number(text, static_cast<uint32_t>(bits(rd, 16, 32)));
+    text.join(":").number(bits(rd, 0, 16));
+    break;
+  case 2: text.number(bits(rd, 16, 32)).join(":").number(bits(rd, 0, 16)); break;
+  default: printUnknownRouteDistinguisher(rd, text.flush());
+  }
+}
+
+void printRouteTarget(unsigned long long rt, TextRun& text) {
+  switch (bits(rt, 56, 8)) {
+  case 0: text.number(bits(rt, 32, 16)).join(":").number(bits(rt, 0, 32)); break;
+  case 1:
+    text.number(bits(rt, 40, 8)).join(".").number(bits(rt, 32, 8)).join(".");
+    text.number(bits(rt, 24, 8)).join(".").number(bits(rt, 16, 8));
+    text.join(":").number(bits(rt, 0, 16));
     break;
   case 2:
-    os << bits(rd, 16, 32) << ":" << bits(rd, 0, 16);
+    text.number(bits(rt, 16, 32));
+    if (bits(rt, 32, 16) == 0) text.join("L");
+    text.join(":").number(bits(rt, 0, 16));
     break;
-  default:
-    printUnknownRouteDistinguisher(rd, os);
+  default: printUnknownRouteTarget(rt, text.flush());
   }
+}
+
+void formatRouteDistinguisher(unsigned long long rd, std::ostream& os) {
+  TextRun text(os);
+  printRouteDistinguisher(rd, text);
+  text.flush();
 }
 
 void formatRouteTarget(unsigned long long rt, std::ostream& os) {
-  switch (bits(rt, 56, 8)) {
-  case 0:
-    os << bits(rt, 32, 16) << ":" << bits(rt, 0, 32);
-    break;
-  case 1:
-    os << bits(rt, 40, 8) << "." << bits(rt, 32, 8) << "." << bits(rt, 24, 8) << "."
-       << bits(rt, 16, 8) << ":" << bits(rt, 0, 16);
-    break;
-  case 2:
-    os << bits(rt, 16, 32) << (bits(rt, 32, 16) == 0 ? "L" : "") << ":" << bits(rt, 0, 16);
-    break;
-  default:
-    printUnknownRouteTarget(rt, os);
-  }
+  TextRun text(os);
+  printRouteTarget(rt, text);
+  text.flush();
+}
+
+unsigned appendRouteDistinguisher(const unsigned char* p, TextRun& text) {
+  printRouteDistinguisher(load<uint64_t>(p), text);
+  return lengthRouteDistinguisher(p);
+}
+
+unsigned appendRouteTarget(const unsigned char* p, TextRun& text) {
+  printRouteTarget(load<uint64_t>(p), text);
+  return lengthRouteTarget(p);
 }
 
 unsigned formatRouteDistinguisher(const unsigned char* p, std::ostream& os) {
-  formatRouteDistinguisher(load<uint64_t>(p), os);
-  return lengthRouteDistinguisher(p);
+  return formatThroughRun<appendRouteDistinguisher>(p, os);
 }
 unsigned lengthRouteDistinguisher(const unsigned char*) { return 8; }
 
 unsigned formatRouteTarget(const unsigned char* p, std::ostream& os) {
-  formatRouteTarget(load<uint64_t>(p), os);
-  return lengthRouteTarget(p);
+  return formatThroughRun<appendRouteTarget>(p, os);
 }
 unsigned lengthRouteTarget(const unsigned char*) { return 8; }
 

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -38,6 +39,14 @@ ORVANE_API unsigned lengthRouteDistinguisher(const unsigned char* p); ///< 8
 /// "RT": the u64 at `p`, printed as formatRouteTarget. Returns 8.
 ORVANE_API unsigned formatRouteTarget(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthRouteTarget(const unsigned char* p); ///< 8
+
+/// formatRouteDistinguisher() and formatRouteTarget() by value within a longer text:
+/// the same characters, joined to `text` where separate insertions would print the same.
+void printRouteDistinguisher(unsigned long long rd, TextRun& text);
+void printRouteTarget(unsigned long long rt, TextRun& text);
+/// The append forms (TextRun.h) of "RD" and "RT".
+unsigned appendRouteDistinguisher(const unsigned char* p, TextRun& text);
+unsigned appendRouteTarget(const unsigned char* p, TextRun& text);
 
 /// "RTMRK": RT membership route key: u32 origin AS, u64 route target, u8 prefix length.
 /// Prints "origin: " AS ";" RT "/" length "; value: 0x" and the RT again in 16

@@ -35,10 +35,11 @@ template <unsigned Size> unsigned lengthRawBytes(const unsigned char*) { return 
 
 template <unsigned Size> constexpr FieldKind kRawField{formatRawBytes<Size>, lengthRawBytes<Size>};
 
-constexpr FieldKind kRdField{static_cast<FormatPtr>(formatRouteDistinguisher),
-                             lengthRouteDistinguisher};
-constexpr FieldKind kRtField{static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget};
-constexpr FieldKind kGenPrefixOptField{formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized};
+constexpr FieldKind kRdField{formatRouteDistinguisher, lengthRouteDistinguisher,
+                             appendRouteDistinguisher};
+constexpr FieldKind kRtField{formatRouteTarget, lengthRouteTarget, appendRouteTarget};
+constexpr FieldKind kGenPrefixOptField{formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized,
+                                       appendIpGenPrefixOptimized};
 
 // Address families and SAFIs with route key layouts of their own.
 constexpr unsigned short kAfiIpv4 = 1, kAfiIpv6 = 2, kAfiL2vpn = 25;

@@ -32,7 +32,7 @@ unsigned formatRecord(const KeyRecord& record, const unsigned char* p, std::ostr
   const unsigned key =
       formatBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize, text);
   text << " nlriType-";
-  text.flush() << static_cast<unsigned>(record.nlriType);
+  text.number(record.nlriType);
   text << ")> ";
   text.flush();
   return record.headerSize + key;

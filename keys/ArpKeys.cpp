@@ -14,7 +14,7 @@ constexpr unsigned char kExtendedEntry = 1;
 } // namespace
 
 unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatIpGenAddrOpt, "][", formatString, "]");
+  return formatFields(p, os, "[", appendIpGenAddrOpt, "][", formatString, "]");
 }
 unsigned lengthArpInputConfigKey(const unsigned char* p) {
   return measureFields(p, lengthIpGenAddrOpt, lengthString);
@@ -23,7 +23,7 @@ unsigned lengthArpInputConfigKey(const unsigned char* p) {
 // The flag is read before it is printed and alone decides whether the two extra
 // numbers exist.
 unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os) {
-  unsigned off = formatFields(p, os, formatArpInputConfigKey, "[", formatEth, "][");
+  unsigned off = formatFields(p, os, formatArpInputConfigKey, "[", appendEth, "][");
   const bool extended = at(p, off)[0] == kExtendedEntry;
   off += formatFields(at(p, off), os, formatU8, "][", formatU32);
   if (extended) off += formatFields(at(p, off), os, "][", formatU32, "][", formatU32);

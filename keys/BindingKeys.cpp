@@ -9,9 +9,9 @@
 namespace Orvane {
 
 unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "duid(type: ", formatU16, ", hwtype: ", formatU16, ", lladdr: ",
-                      formatEth, ", uuid: ", formatString, ", entno: ", formatU32, ", entId: ",
-                      formatString, ")");
+  return formatFields(p, os, "duid(type: ", formatU16, ", hwtype: ", formatU16,
+                      ", lladdr: ", appendEth, ", uuid: ", formatString, ", entno: ", formatU32,
+                      ", entId: ", formatString, ")");
 }
 // The host is asked for the width of the first u16 only; both count with it.
 unsigned lengthDuidMacBindingKey(const unsigned char* p) {
@@ -20,44 +20,44 @@ unsigned lengthDuidMacBindingKey(const unsigned char* p) {
 }
 
 unsigned formatIpMacV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatIpGenAddr, ",", formatEth, ",", formatU32, ",",
-                      formatU8, "]");
+  return formatFields(p, os, "[", appendIpGenAddr, ",", appendEth, ",", formatU32, ",", formatU8,
+                      "]");
 }
 unsigned lengthIpMacV2(const unsigned char* p) {
   return measureFields(p, lengthIpGenAddr, lengthEth, lengthU32, lengthU8);
 }
 
 unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatIpGenAddrOpt, ",", formatEth, ",", formatU32, ",",
-                      formatU8, "]");
+  return formatFields(p, os, "[", appendIpGenAddrOpt, ",", appendEth, ",", formatU32, ",", formatU8,
+                      "]");
 }
 unsigned lengthIpMacV2Optimized(const unsigned char* p) {
   return measureFields(p, lengthIpGenAddrOpt, lengthEth, lengthU32, lengthU8);
 }
 
 unsigned formatMacVtep(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatEth, ",", formatIp, ",", formatU32, ",", formatU8, "]");
+  return formatFields(p, os, "[", appendEth, ",", appendIp, ",", formatU32, ",", formatU8, "]");
 }
 unsigned lengthMacVtep(const unsigned char* p) {
   return measureFields(p, lengthEth, lengthIp, lengthU32, lengthU8);
 }
 
 unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatEth, ",", formatU16, "]");
+  return formatFields(p, os, "[", appendEth, ",", formatU16, "]");
 }
 unsigned lengthMacVlanPair(const unsigned char* p) {
   return measureFields(p, lengthEth, lengthU16);
 }
 
 unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU16, ",", formatIpGenAddr, "]");
+  return formatFields(p, os, "[", formatU16, ",", appendIpGenAddr, "]");
 }
 unsigned lengthVlanIpPair(const unsigned char* p) {
   return measureFields(p, lengthU16, lengthIpGenAddr);
 }
 
 unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU16, ",", formatIpGenAddrOpt, "]");
+  return formatFields(p, os, "[", formatU16, ",", appendIpGenAddrOpt, "]");
 }
 unsigned lengthVlanIpPairOptimized(const unsigned char* p) {
   return measureFields(p, lengthU16, lengthIpGenAddrOpt);

@@ -9,14 +9,14 @@ namespace Orvane {
 // "C" and "NSK" print each address and port as "IP" does, with the port inserted
 // directly.
 unsigned formatConnTuple(const unsigned char* p, std::ostream& os) {
-  const unsigned endpoints = formatFields(p, os, formatIpAndPort, " -> ", formatIpAndPort);
+  const unsigned endpoints = formatFields(p, os, appendIpAndPort, " -> ", appendIpAndPort);
   os << ',' << static_cast<unsigned>(p[endpoints]);
   return lengthConnTuple(p);
 }
 unsigned lengthConnTuple(const unsigned char*) { return 13; }
 
 unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "acl: ", formatString, ", addr: ", formatIpAndPort);
+  return formatFields(p, os, "acl: ", formatString, ", addr: ", appendIpAndPort);
 }
 unsigned lengthNatStaticKey(const unsigned char* p) {
   return measureFields(p, lengthString, lengthIpAndPort);
@@ -37,15 +37,15 @@ unsigned lengthNatDynamicConn(const unsigned char* p) {
 }
 
 unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatIp, ":", formatU16, ":", formatU8, ")");
+  return formatFields(p, os, "(", appendIp, ":", formatU16, ":", formatU8, ")");
 }
 unsigned lengthUpnpPortMapKey(const unsigned char* p) {
   return measureFields(p, lengthU32, lengthU16, lengthU8);
 }
 
 unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "vrfId:", formatU32, " vlanId:", formatU16, " srcAddr:", formatIp,
-                      " dstAddr:", formatIp, " ipProtocol:", formatU8, " srcPort:", formatU16,
+  return formatFields(p, os, "vrfId:", formatU32, " vlanId:", formatU16, " srcAddr:", appendIp,
+                      " dstAddr:", appendIp, " ipProtocol:", formatU8, " srcPort:", formatU16,
                       " dstPort:", formatU16);
 }
 unsigned lengthIpFlowKey(const unsigned char* p) {

@@ -7,10 +7,10 @@
 namespace Orvane {
 namespace {
 
-template <FormatPtr formatAddress> unsigned formatPeer(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "peer(ip:", formatAddress, ", vrf:", formatString,
-                      ", srcip:", formatAddress, ", intf:", formatString,
-                      ", tunnelId:", formatU64, ", type:", formatU32, ")");
+template <AppendPtr appendAddress> unsigned formatPeer(const unsigned char* p, std::ostream& os) {
+  return formatFields(p, os, "peer(ip:", appendAddress, ", vrf:", formatString,
+                      ", srcip:", appendAddress, ", intf:", formatString, ", tunnelId:", formatU64,
+                      ", type:", formatU32, ")");
 }
 template <LengthPtr lengthAddress> unsigned measurePeer(const unsigned char* p) {
   return measureFields(p, lengthAddress, lengthString, lengthAddress, lengthString, lengthU64,
@@ -20,12 +20,12 @@ template <LengthPtr lengthAddress> unsigned measurePeer(const unsigned char* p) 
 } // namespace
 
 unsigned formatBfdPeer(const unsigned char* p, std::ostream& os) {
-  return formatPeer<formatIpGenAddr>(p, os);
+  return formatPeer<appendIpGenAddr>(p, os);
 }
 unsigned lengthBfdPeer(const unsigned char* p) { return measurePeer<lengthIpGenAddr>(p); }
 
 unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPeer<formatIpGenAddrOpt>(p, os);
+  return formatPeer<appendIpGenAddrOpt>(p, os);
 }
 unsigned lengthBfdPeerOptimized(const unsigned char* p) {
   return measurePeer<lengthIpGenAddrOpt>(p);

@@ -13,29 +13,28 @@ enum FecType : unsigned char { kPrefixFec = 0, kRsvpFec = 1, kMldpFec = 2, kPref
 
 // The address and prefix encodings one FEC form uses.
 struct FecFields {
-  FormatPtr formatPrefix;
+  AppendPtr appendPrefix;
   LengthPtr lengthPrefix;
-  FormatPtr formatAddress;
+  AppendPtr appendAddress;
   LengthPtr lengthAddress;
 };
 
-constexpr FecFields kPlainFields{formatIpGenPrefix, lengthIpGenPrefix, formatIpGenAddr,
+constexpr FecFields kPlainFields{appendIpGenPrefix, lengthIpGenPrefix, appendIpGenAddr,
                                  lengthIpGenAddr};
-constexpr FecFields kOptimizedFields{formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized,
-                                     formatIpGenAddrOpt, lengthIpGenAddrOpt};
+constexpr FecFields kOptimizedFields{appendIpGenPrefixOptimized, lengthIpGenPrefixOptimized,
+                                     appendIpGenAddrOpt, lengthIpGenAddrOpt};
 
 // The body follows the type byte, so each walk starts at p + 1 and adds that byte.
 unsigned formatFec(const unsigned char* p, std::ostream& os, const FecFields& fields) {
   const unsigned char* body = p + 1;
   switch (p[0]) {
-  case kPrefixFec:
-    return 1 + formatFields(body, os, fields.formatPrefix);
+  case kPrefixFec: return 1 + formatFields(body, os, fields.appendPrefix);
   case kRsvpFec:
     return 1 + formatFields(body, os, "RSVP[Session=", formatU32, ", SP=", formatU32, "]");
   case kMldpFec:
-    return 1 + formatFields(body, os, "MLDP[Root=", fields.formatAddress, ", ID=", formatU32, "]");
+    return 1 + formatFields(body, os, "MLDP[Root=", fields.appendAddress, ", ID=", formatU32, "]");
   case kPrefixAlgoFec:
-    return 1 + formatFields(body, os, "PFXALGO[", fields.formatPrefix, ", ", formatU32, "]");
+    return 1 + formatFields(body, os, "PFXALGO[", fields.appendPrefix, ", ", formatU32, "]");
   default:
     return kInvalidLength;
   }

@@ -26,32 +26,24 @@ const char* labelOperationName(unsigned char code) {
   return code == 255 ? "unknown" : nullptr;
 }
 
-void printEvpnLabelWord(uint32_t word, std::ostream& os) {
+void printEvpnLabelWord(uint32_t word, TextRun& text) {
   const unsigned value = word & 0xFFFFFF;
   switch (word >> 24) {
-  case 0:
-    os << "NotPresent";
-    break;
-  case 1:
-    os << "VNI:" << value;
-    break;
-  case 2:
-    os << "MplsLabel:" << (value >> 4);
-    break;
-  default:
-    os << "UnsupportedType:" << value;
+  case 0: text.join("NotPresent"); break;
+  case 1: text.join("VNI:").number(value); break;
+  case 2: text.join("MplsLabel:").number(value >> 4); break;
+  default: text.join("UnsupportedType:").number(value);
   }
 }
 
-// formatMplsLabel() within a longer text: a name joins the pending text, a number is
-// inserted after it.
+// formatMplsLabel() within a longer text.
 void printMplsLabel(unsigned label, TextRun& text) {
   if (label == kImplicitNullLabel)
     text << "ImplicitNull";
   else if (label == kNoLabel)
     text << "Null";
   else
-    text.flush() << label;
+    text.number(label);
 }
 
 } // namespace
@@ -90,9 +82,12 @@ unsigned lengthMplsLabelOperation(const unsigned char* p) {
   return count > kMaxStackLabels ? kInvalidLength : 2 + 4 * count;
 }
 
-unsigned formatEvpnLabel(const unsigned char* p, std::ostream& os) {
-  printEvpnLabelWord(load<uint32_t>(p), os);
+unsigned appendEvpnLabel(const unsigned char* p, TextRun& text) {
+  printEvpnLabelWord(load<uint32_t>(p), text);
   return lengthEvpnLabel(p);
+}
+unsigned formatEvpnLabel(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendEvpnLabel>(p, os);
 }
 unsigned lengthEvpnLabel(const unsigned char*) { return 4; }
 
@@ -100,8 +95,10 @@ unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os) {
   if (p[0] == kSystemIdRouterKind) {
     formatIsisSystemId(p + 1, os);
   } else {
-    printIpv4Bytes(os, p + 1);
-    os << ":" << static_cast<unsigned>(p[5] << 8 | p[6]);
+    TextRun text(os);
+    printIpv4Bytes(text, p + 1);
+    text.join(":").number(static_cast<unsigned>(p[5] << 8 | p[6]));
+    text.flush();
   }
   return lengthMplsRouterId(p);
 }

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -34,6 +35,8 @@ ORVANE_API unsigned lengthMplsLabelOperation(const unsigned char* p);
 /// plain decimal. Returns 4.
 ORVANE_API unsigned formatEvpnLabel(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthEvpnLabel(const unsigned char* p); ///< 4
+/// The append form (TextRun.h) of "EL".
+unsigned appendEvpnLabel(const unsigned char* p, TextRun& text);
 
 /// "MRTR": u8 kind and six id bytes. Kind 3 prints the bytes as a system id
 /// (1921.6800.1001); any other kind prints bytes 1..4 as an IPv4 address in network

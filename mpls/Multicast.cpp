@@ -20,8 +20,8 @@ namespace {
 constexpr unsigned kFlagW = 1, kFlagS = 2;
 
 // Every multicast key is "(" first ", " second ")" with the two parts alike.
-template <FormatPtr formatPart> unsigned formatPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatPart, ", ", formatPart, ")");
+template <AppendPtr appendPart> unsigned formatPair(const unsigned char* p, std::ostream& os) {
+  return formatFields(p, os, "(", appendPart, ", ", appendPart, ")");
 }
 template <LengthPtr lengthPart> unsigned measurePair(const unsigned char* p) {
   return measureFields(p, lengthPart, lengthPart);
@@ -36,12 +36,12 @@ const char* joinStateName(const unsigned char* p, const char* const (&names)[3])
 } // namespace
 
 unsigned formatMRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<formatIpGenAddr>(p, os);
+  return formatPair<appendIpGenAddr>(p, os);
 }
 unsigned lengthMRouteKey(const unsigned char* p) { return measurePair<lengthIpGenAddr>(p); }
 
 unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPair<formatIpGenAddrOpt>(p, os);
+  return formatPair<appendIpGenAddrOpt>(p, os);
 }
 unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
   return measurePair<lengthIpGenAddrOpt>(p);
@@ -76,17 +76,17 @@ unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os) 
 unsigned lengthMRouteIntfRptJoinState(const unsigned char*) { return 4; }
 
 unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<formatIpPrefix>(p, os);
+  return formatPair<appendIpPrefix>(p, os);
 }
 unsigned lengthMfibRouteKey(const unsigned char* p) { return measurePair<lengthIpPrefix>(p); }
 
 unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<formatIpGenPrefix>(p, os);
+  return formatPair<appendIpGenPrefix>(p, os);
 }
 unsigned lengthMfibGenRouteKey(const unsigned char* p) { return measurePair<lengthIpGenPrefix>(p); }
 
 unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPair<formatIpGenPrefixOptimized>(p, os);
+  return formatPair<appendIpGenPrefixOptimized>(p, os);
 }
 unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p) {
   return measurePair<lengthIpGenPrefixOptimized>(p);

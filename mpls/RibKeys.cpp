@@ -8,27 +8,27 @@
 namespace Orvane {
 namespace {
 
-template <FormatPtr formatPrefix>
+template <AppendPtr appendPrefix>
 unsigned formatRibRoute(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU32, ", ", formatPrefix, ")");
+  return formatFields(p, os, "(", formatU32, ", ", appendPrefix, ")");
 }
 
-template <FormatPtr formatPrefix>
+template <AppendPtr appendPrefix>
 unsigned formatUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "vrf:", formatU16, ", ipAddr:", formatPrefix);
+  return formatFields(p, os, "vrf:", formatU16, ", ipAddr:", appendPrefix);
 }
 
 } // namespace
 
 unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatRibRoute<formatIpGenPrefix>(p, os);
+  return formatRibRoute<appendIpGenPrefix>(p, os);
 }
 unsigned lengthRibRouteKey(const unsigned char* p) {
   return measureFields(p, lengthU32, lengthIpGenPrefix);
 }
 
 unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatRibRoute<formatIpGenPrefixOptimized>(p, os);
+  return formatRibRoute<appendIpGenPrefixOptimized>(p, os);
 }
 unsigned lengthRibRouteKeyOptimized(const unsigned char* p) {
   return measureFields(p, lengthU32, lengthIpGenPrefixOptimized);
@@ -63,14 +63,14 @@ unsigned lengthAfProtoVrfId(const unsigned char* p) {
 }
 
 unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatUcastKeyRef<formatIpGenPrefix>(p, os);
+  return formatUcastKeyRef<appendIpGenPrefix>(p, os);
 }
 unsigned lengthIpGenUcastKeyRef(const unsigned char* p) {
   return measureFields(p, lengthU16, lengthIpGenPrefix);
 }
 
 unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os) {
-  return formatUcastKeyRef<formatIpGenPrefixOptimized>(p, os);
+  return formatUcastKeyRef<appendIpGenPrefixOptimized>(p, os);
 }
 unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p) {
   return measureFields(p, lengthU16, lengthIpGenPrefixOptimized);

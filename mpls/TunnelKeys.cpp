@@ -8,18 +8,18 @@
 namespace Orvane {
 namespace {
 
-template <FormatPtr formatAddress>
+template <AppendPtr appendAddress>
 unsigned formatGenTunnel(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "src:", formatAddress, ", dst:", formatAddress, ", vrf:", formatU32,
+  return formatFields(p, os, "src:", appendAddress, ", dst:", appendAddress, ", vrf:", formatU32,
                       ", genId:", formatU64);
 }
 template <LengthPtr lengthAddress> unsigned measureGenTunnel(const unsigned char* p) {
   return measureFields(p, lengthAddress, lengthAddress, lengthU32, lengthU64);
 }
 
-template <FormatPtr formatAddress>
+template <AppendPtr appendAddress>
 unsigned formatPseudowire(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatU32, "/", formatString, "/", formatAddress);
+  return formatFields(p, os, formatU32, "/", formatString, "/", appendAddress);
 }
 template <LengthPtr lengthAddress> unsigned measurePseudowire(const unsigned char* p) {
   return measureFields(p, lengthU32, lengthString, lengthAddress);
@@ -30,39 +30,36 @@ template <LengthPtr lengthAddress> unsigned measurePseudowire(const unsigned cha
 unsigned formatTunnelKey(const unsigned char* p, std::ostream& os) {
   // The one key of the family whose fields sit at fixed offsets, whatever the host's
   // integer widths, and whose size is a constant.
-  os << "src:";
-  formatIp(p, os);
-  os << ", dst:";
-  formatIp(p + 4, os);
-  os << ", vrf:";
-  formatU32(p + 8, os);
-  os << ", genId:";
-  formatU64(p + 12, os);
+  TextRun text(os);
+  appendIp(p, text.join("src:"));
+  appendIp(p + 4, text.join(", dst:"));
+  formatU32(p + 8, text.join(", vrf:").flush());
+  formatU64(p + 12, text.join(", genId:").flush());
   return lengthTunnelKey(p);
 }
 unsigned lengthTunnelKey(const unsigned char*) { return 20; }
 
 unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os) {
-  return formatGenTunnel<formatIpGenAddr>(p, os);
+  return formatGenTunnel<appendIpGenAddr>(p, os);
 }
 unsigned lengthTunnelKeyGen(const unsigned char* p) { return measureGenTunnel<lengthIpGenAddr>(p); }
 
 unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os) {
-  return formatGenTunnel<formatIpGenAddrOpt>(p, os);
+  return formatGenTunnel<appendIpGenAddrOpt>(p, os);
 }
 unsigned lengthTunnelKeyGenOptimized(const unsigned char* p) {
   return measureGenTunnel<lengthIpGenAddrOpt>(p);
 }
 
 unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os) {
-  return formatPseudowire<formatIpGenAddr>(p, os);
+  return formatPseudowire<appendIpGenAddr>(p, os);
 }
 unsigned lengthPseudowireKey(const unsigned char* p) {
   return measurePseudowire<lengthIpGenAddr>(p);
 }
 
 unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPseudowire<formatIpGenAddrOpt>(p, os);
+  return formatPseudowire<appendIpGenAddrOpt>(p, os);
 }
 unsigned lengthPseudowireKeyOptimized(const unsigned char* p) {
   return measurePseudowire<lengthIpGenAddrOpt>(p);

@@ -14,17 +14,30 @@
 // The gathered text is inserted with `<<`, so a width the caller set applies to it
 // as a whole, as it applied to the first of the pieces before. An empty run inserts
 // nothing.
+//
+// Text that would otherwise be an insertion of its own, a field's text or a number,
+// joins the run through join() and number() only where that cannot be seen: when the
+// stream has no width at that point (and, for a number, prints plain decimal digits).
+// Otherwise the run is inserted first and the text after it, alone, exactly as an
+// insertion of its own would print. Formatters of the plug-in's own fields have an
+// append form (AppendPtr) that adds their text to a run this way.
 #pragma once
 
+#include "registry/PlainDecimal.h"
+
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <ostream>
 #include <string_view>
 
 namespace Orvane {
 
 /// Gathers literal text for one `<<` on a stream. Call flush() before anything else
-/// writes to the stream and once at the end; pieces still pending are not written.
+/// writes to the stream or changes its format, and once at the end; pieces still
+/// pending are not written.
 class TextRun {
 public:
   explicit TextRun(std::ostream& os) : os_(os) {}
@@ -58,8 +71,38 @@ public:
     return *this << std::string_view(piece);
   }
 
+  /// Prints `value` as `os << value` would at this point. Its digits join the pending
+  /// text when the stream has no width and prints plain decimal digits; otherwise the
+  /// pending text is inserted and then the number on its own.
+  TextRun& number(uint64_t value) {
+    if (!hasNoWidth() || !formatsPlainDecimal()) {
+      flush() << value;
+      return *this;
+    }
+    if (kCapacity - size_ < kMaxDecimalDigits) flush();
+    size_ = std::to_chars(text_ + size_, text_ + kCapacity, value).ptr - text_;
+    return *this;
+  }
+
+  /// Prints `piece` as `os << piece` would at this point: it joins the pending text
+  /// when the stream has no width, and is otherwise inserted on its own (padded to the
+  /// width) after the pending text.
+  TextRun& join(std::string_view piece) {
+    if (hasNoWidth()) return *this << piece;
+    flush() << piece;
+    return *this;
+  }
+
+  /// join(piece) and then flush(), without copying `piece` when nothing is pending.
+  std::ostream& flushWith(std::string_view piece) {
+    if (size_ > 0) return join(piece).flush();
+    plainDecimal_ = kNotChecked;
+    return os_ << piece;
+  }
+
   /// Inserts the pending text, if any, and returns the stream for what follows it.
   std::ostream& flush() {
+    plainDecimal_ = kNotChecked; // whoever gets the stream may change its format
     if (size_ > 0) {
       os_ << std::string_view(text_, size_);
       size_ = 0;
@@ -68,10 +111,47 @@ public:
   }
 
 private:
+  // True when the stream has no width at this point. A width the caller set belongs to
+  // the pending text, which is inserted first to consume it; a width that remains (the
+  // run was empty, or the stream refused it) is for the next insertion alone.
+  bool hasNoWidth() {
+    if (os_.width() != 0) flush();
+    return os_.width() == 0;
+  }
+
+  // Orvane::formatsPlainDecimal() for the stream, checked once until the next flush():
+  // the stream's format cannot change while only this run writes to it.
+  bool formatsPlainDecimal() {
+    if (plainDecimal_ == kNotChecked)
+      plainDecimal_ = Orvane::formatsPlainDecimal(os_) ? kPlain : kNotPlain;
+    return plainDecimal_ == kPlain;
+  }
+
   static constexpr std::size_t kCapacity = 128;
+  enum PlainDecimal : unsigned char { kNotChecked, kPlain, kNotPlain };
   std::ostream& os_;
   std::size_t size_ = 0;
+  PlainDecimal plainDecimal_ = kNotChecked;
   char text_[kCapacity];
 };
+
+/// Prints the text of a field that is an insertion of its own on a stream, and joins
+/// it (TextRun::join) within a run: code written once for both takes either.
+inline void printField(std::ostream& os, std::string_view text) { os << text; }
+inline void printField(TextRun& run, std::string_view text) { run.join(text); }
+
+/// A formatter's append form: adds the text of the value at `p` to `text` (through
+/// join() and number(), so that it prints as the format form would) and returns the
+/// value's size, as the format form does.
+using AppendPtr = unsigned (*)(const unsigned char* p, TextRun& text);
+
+/// The format form of an append function: the value's text on a run of its own,
+/// inserted before returning.
+template <AppendPtr Append> unsigned formatThroughRun(const unsigned char* p, std::ostream& os) {
+  TextRun text(os);
+  const unsigned count = Append(p, text);
+  text.flush();
+  return count;
+}
 
 } // namespace Orvane
