@@ -4,6 +4,8 @@
 #include "bgp/RouteDistinguisher.h"
 #include "registry/HexDigits.h"
 
+#include <array>
+#include <cstddef>
 #include <iterator>
 
 namespace Orvane {
@@ -133,7 +135,8 @@ constexpr FieldLayout kMacArpShortKey{{{"raw:", kRawField<27>}, kU32}};
 constexpr FieldLayout kMacMulticastKey{{{"u32:", kU32Field}, kRaw63, kBool}};
 constexpr FieldLayout kMacSynchKey{{{"raw:", kRawField<10>}, kU32, kRaw63}};
 
-// First match wins; kAnySafi rows come last in their AFI.
+// First match wins; kAnySafi rows come last in their AFI. The rows of an AFI are kept
+// together, so that a search looks at its own AFI's rows only (kAfiRows).
 constexpr RouteKeyLayout kRouteKeyLayouts[] = {
     {kAfiIpv4, kSafiFlowspec, kNoLetter, kFlowspecKey},
     {kAfiIpv4, kSafiMplsVpn, kNoLetter, vpnPrefixKey(kIp4Field)},
@@ -205,9 +208,40 @@ constexpr RouteKeyLayout kRouteKeyLayouts[] = {
     {kAfiMac, kSafiMacLeaveSynch, kNoLetter, kMacSynchKey},
 };
 
-bool matches(const RouteKeyLayout& layout, unsigned short afi, unsigned short safi,
-             const unsigned char* key) {
-  return layout.afi == afi && (layout.safi == safi || layout.safi == kAnySafi) &&
+// The rows [begin, end) of kRouteKeyLayouts that hold one AFI's layouts.
+struct AfiRows {
+  unsigned short afi = 0;
+  std::size_t begin = 0, end = 0;
+};
+
+constexpr std::size_t countAfiGroups() {
+  std::size_t groups = 0;
+  for (std::size_t i = 0; i < std::size(kRouteKeyLayouts); ++i)
+    groups += i == 0 || kRouteKeyLayouts[i].afi != kRouteKeyLayouts[i - 1].afi;
+  return groups;
+}
+
+constexpr auto kAfiRows = [] {
+  std::array<AfiRows, countAfiGroups()> groups{};
+  std::size_t group = 0;
+  for (std::size_t i = 0; i < std::size(kRouteKeyLayouts); ++i) {
+    if (i > 0 && kRouteKeyLayouts[i].afi != kRouteKeyLayouts[i - 1].afi) ++group;
+    if (groups[group].end == 0) groups[group] = {kRouteKeyLayouts[i].afi, i, i};
+    groups[group].end = i + 1;
+  }
+  return groups;
+}();
+
+constexpr bool eachAfiInOneGroup() {
+  for (std::size_t i = 0; i < kAfiRows.size(); ++i)
+    for (std::size_t j = i + 1; j < kAfiRows.size(); ++j)
+      if (kAfiRows[i].afi == kAfiRows[j].afi) return false;
+  return true;
+}
+static_assert(eachAfiInOneGroup(), "keep the rows of an AFI together in kRouteKeyLayouts");
+
+bool matches(const RouteKeyLayout& layout, unsigned short safi, const unsigned char* key) {
+  return (layout.safi == safi || layout.safi == kAnySafi) &&
          (layout.letter == kNoLetter || layout.letter == key[0]);
 }
 
@@ -215,9 +249,12 @@ bool matches(const RouteKeyLayout& layout, unsigned short afi, unsigned short sa
 
 const RouteKeyLayout* findRouteKeyLayout(unsigned short afi, unsigned short safi,
                                          const unsigned char* key) {
-  for (const RouteKeyLayout& layout : kRouteKeyLayouts)
-    if (matches(layout, afi, safi, key))
-      return &layout;
+  for (const AfiRows& rows : kAfiRows) {
+    if (rows.afi != afi) continue;
+    for (std::size_t i = rows.begin; i < rows.end; ++i)
+      if (matches(kRouteKeyLayouts[i], safi, key)) return &kRouteKeyLayouts[i];
+    return nullptr;
+  }
   return nullptr;
 }
 
