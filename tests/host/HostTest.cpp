@@ -1,11 +1,14 @@
-// The host: base formatters in any stream state, lookups while a plug-in registers.
+// Base formatters and the plug-in's joined text in any stream state; lookups while registering.
+#include "bgp/NextHop.h"
 #include "host/Registry.h"
+#include "mpls/Label.h"
 #include "registry/HostInterface.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <thread>
+#include <tuple>
 
 namespace Orvane::test {
 namespace {
@@ -32,6 +35,28 @@ TEST(BaseFormatters, MatchTheStreamsOwnInsertion) {
       EXPECT_EQ(actual.str(), expected.str());
       EXPECT_EQ(actual.rdstate(), expected.rdstate()) << expected.str();
     }
+}
+
+TEST(JoinedText, PrintsWhatSeparateInsertionsWould) {
+  static const unsigned char label[] = {0xe8, 3, 0, 0}, // 1000
+      hop[] = {1, 2, 0, 0, 0, 3, 1, 0, 0, 10, 0, 0x1c, 0x73, 0xaa, 0xbb, 0xcc};
+  void (*const setups[])(std::ostream&) = {
+      [](std::ostream& os) { os.width(12); }, [](std::ostream& os) { os.imbue(kGrouping); },
+      [](std::ostream& os) { os << std::hex << std::showbase; },
+      [](std::ostream& os) { os.rdbuf(&kRefusing); },
+      [](std::ostream& os) { os.setstate(std::ios::failbit), os.width(3); }};
+  for (auto setup : setups) { // each value on the stream as the setup leaves it
+    std::ostringstream actual, expected;
+    setup(actual), setup(expected), formatMplsLabel(label, actual);
+    expected << "MplsLabel(" << 1000u << ")";
+    setup(actual), setup(expected), formatBgpGenNextHop(hop, actual);
+    for (auto piece : {"<ip:", "10.0.0.1", ", routerMac:", "001c.73aa.bbcc", "> (L3-vrfId:"})
+      expected << piece;
+    expected << 2u << ")";
+    // One failed insertion for several: bad, without the failbit of those after it.
+    EXPECT_EQ(std::tuple(actual.str(), actual.bad(), actual.width()),
+              std::tuple(expected.str(), expected.bad(), expected.width()));
+  }
 }
 
 TEST(Registry, LookupsWhileEnoughIdsToGrowTheTableRegister) {
