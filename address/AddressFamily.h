@@ -1,6 +1,7 @@
 // The address family tag of the generic forms and the "AF" id.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -19,8 +20,8 @@ inline constexpr std::pair<unsigned, const char*> kAddressFamilyNameEntries[] = 
 extern const NameTable addressFamilyNames;
 
 /// "AF": the family's name, or the code in decimal when it has none. Returns 1.
-unsigned formatAf(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatAf(const unsigned char* p, std::ostream& os);
 /// 1.
-unsigned lengthAf(const unsigned char* p);
+ORVANE_API unsigned lengthAf(const unsigned char* p);
 
 } // namespace Orvane

@@ -15,13 +15,15 @@
 // read before or after the record; the host hands over whole records.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "A": the address by family code. Returns N.
-unsigned formatAfAddr(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatAfAddr(const unsigned char* p, std::ostream& os);
 /// Byte 0, the record's total length.
-unsigned lengthAfAddr(const unsigned char* p);
+ORVANE_API unsigned lengthAfAddr(const unsigned char* p);
 
 } // namespace Orvane

@@ -2,25 +2,27 @@
 // All hex digits are lowercase.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "E": 6 raw bytes as three dot-separated groups of four hex digits, each group's first
 /// byte high: 00 1c 73 aa bb cc prints 001c.73aa.bbcc. Returns 6.
-unsigned formatEth(const unsigned char* p, std::ostream& os);
-unsigned lengthEth(const unsigned char* p); ///< 6
+ORVANE_API unsigned formatEth(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthEth(const unsigned char* p); ///< 6
 
 /// "EC": 6 raw bytes colon-separated, 00:1c:73:aa:bb:cc. Returns 6.
-unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os);
-unsigned lengthEthColonSeparated(const unsigned char* p); ///< 6
+ORVANE_API unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthEthColonSeparated(const unsigned char* p); ///< 6
 
 /// "EM": MAC "/" mask, both as "E". Returns 12.
-unsigned formatEthMask(const unsigned char* p, std::ostream& os);
-unsigned lengthEthMask(const unsigned char* p); ///< 12
+ORVANE_API unsigned formatEthMask(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthEthMask(const unsigned char* p); ///< 12
 
 /// "ES": 10 raw bytes as five colon-separated groups of four hex digits. Returns 10.
-unsigned formatEthSegment(const unsigned char* p, std::ostream& os);
-unsigned lengthEthSegment(const unsigned char* p); ///< 10
+ORVANE_API unsigned formatEthSegment(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthEthSegment(const unsigned char* p); ///< 10
 
 } // namespace Orvane

@@ -6,25 +6,27 @@
 // Opt form: the tag, then only the slot the tag names: 5, 17 or 1 bytes.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "IG": the slot the tag names, or "unknown" for any other tag. Returns 21.
-unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os);
-unsigned lengthIpGenAddr(const unsigned char* p); ///< 21
+ORVANE_API unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIpGenAddr(const unsigned char* p); ///< 21
 
 /// "IGO": as "IG" over the Opt form. Returns 5 (tag 1), 17 (tag 2) or 1.
-unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os);
-unsigned lengthIpGenAddrOpt(const unsigned char* p); ///< 5, 17 or 1 by the tag
+ORVANE_API unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIpGenAddrOpt(const unsigned char* p); ///< 5, 17 or 1 by the tag
 
 /// "IGM": address "/" mask, both generic addresses, e.g. 10.1.0.0/255.255.0.0. Returns 42.
-unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);
-unsigned lengthIpGenAddrWithFullMask(const unsigned char* p); ///< 42
+ORVANE_API unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIpGenAddrWithFullMask(const unsigned char* p); ///< 42
 
 /// "IGMO": as "IGM" over two Opt addresses, the mask starting where the address ends.
-unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os);
 /// The two Opt lengths added.
-unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p);
+ORVANE_API unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p);
 
 } // namespace Orvane

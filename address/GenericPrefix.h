@@ -6,20 +6,22 @@
 // no address bytes when L is 255.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "PG": address "/" length. An unknown tag prints "unknown address family(N)" with
 /// the tag as a signed char (255 prints -1). Returns 18.
-unsigned formatIpGenPrefix(const unsigned char* p, std::ostream& os);
-unsigned lengthIpGenPrefix(const unsigned char* p); ///< 18
+ORVANE_API unsigned formatIpGenPrefix(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIpGenPrefix(const unsigned char* p); ///< 18
 
 /// "PGO". Special cases: tag 1 with L 33, and tags 1/2 with L 255, print the family's
 /// zero address with "/255"; tag 0 with L 255 prints nothing. Otherwise as "PG".
-unsigned formatIpGenPrefixOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpGenPrefixOptimized(const unsigned char* p, std::ostream& os);
 /// Tag 0: 2; tag other than 0-2: 0xFFFFFFFF; L 255: 2; else 2 + ceil(L/8) (7 for the
 /// IPv4 L 33 marker).
-unsigned lengthIpGenPrefixOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthIpGenPrefixOptimized(const unsigned char* p);
 
 } // namespace Orvane

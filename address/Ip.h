@@ -6,6 +6,8 @@
 // network order. A failed conversion prints "unknown" in the address's place.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -18,26 +20,26 @@ void printIpv6Bytes(std::ostream& os, const unsigned char* bytes);
 /// Converts the native-order u32 IPv4 address at `p` into `buf` (of `len` bytes) and
 /// returns `buf`; when the conversion fails, copies "unknown" with strncpy. Writes
 /// nothing to any stream.
-char* formatIpAddr(const unsigned char* p, char* buf, unsigned len);
+ORVANE_API char* formatIpAddr(const unsigned char* p, char* buf, unsigned len);
 
 /// "I": native u32 IPv4 address, e.g. 10.0.0.1. Returns 4.
-unsigned formatIp(const unsigned char* p, std::ostream& os);
-unsigned lengthIp(const unsigned char* p); ///< 4
+ORVANE_API unsigned formatIp(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIp(const unsigned char* p); ///< 4
 
 /// "I6": 16-byte IPv6 address. Returns 16.
-unsigned formatIp6Addr(const unsigned char* p, std::ostream& os);
-unsigned lengthIp6Addr(const unsigned char* p); ///< 16
+ORVANE_API unsigned formatIp6Addr(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIp6Addr(const unsigned char* p); ///< 16
 
 /// "P", "AM4": IPv4 address then "/" and the u8 prefix length, e.g. 10.0.0.0/8. Returns 5.
-unsigned formatIpPrefix(const unsigned char* p, std::ostream& os);
-unsigned lengthIpPrefix(const unsigned char* p); ///< 5
+ORVANE_API unsigned formatIpPrefix(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIpPrefix(const unsigned char* p); ///< 5
 
 /// "P6", "AM6": IPv6 address then "/" and the u8 prefix length. Returns 17.
-unsigned formatIp6Prefix(const unsigned char* p, std::ostream& os);
-unsigned lengthIp6Prefix(const unsigned char* p); ///< 17
+ORVANE_API unsigned formatIp6Prefix(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIp6Prefix(const unsigned char* p); ///< 17
 
 /// "IP": IPv4 address, ":" and the native u16 port, e.g. 10.0.0.1:179. Returns 6.
-unsigned formatIpAndPort(const unsigned char* p, std::ostream& os);
-unsigned lengthIpAndPort(const unsigned char* p); ///< 6
+ORVANE_API unsigned formatIpAndPort(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIpAndPort(const unsigned char* p); ///< 6
 
 } // namespace Orvane

@@ -1,18 +1,20 @@
 // IS-IS and DSF system identifiers: ids "IS" and "DSFID".
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "IS": 6 raw bytes as 0100.0000.0001 (lowercase hex). Returns 6.
-unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os);
-unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
+ORVANE_API unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
 
 /// "DSFID": "SystemId(" u8 ", " u16 ", " string ")" through the host's base formatters.
 /// Returns the three fields' counts added.
-unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os);
 /// lengthU8 + lengthU16 + lengthString, each measured where the previous field ends.
-unsigned lengthDsfSystemId(const unsigned char* p);
+ORVANE_API unsigned lengthDsfSystemId(const unsigned char* p);
 
 } // namespace Orvane

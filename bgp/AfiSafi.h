@@ -9,6 +9,7 @@
 // to AFI ipv4).
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -319,40 +320,40 @@ extern const NameTable nlriTypeNames;
 extern const std::unordered_map<unsigned, AfiSafi> nlriTypeToAfiSafi;
 
 /// Writes the AFI's name, or "unknown". No brackets. Returns `os`.
-std::ostream& formatAfi(unsigned short afi, std::ostream& os);
+ORVANE_API std::ostream& formatAfi(unsigned short afi, std::ostream& os);
 /// Writes the SAFI's name (private SAFIs too), or "unknown". No brackets. Returns `os`.
-std::ostream& formatSafi(unsigned short safi, std::ostream& os);
+ORVANE_API std::ostream& formatSafi(unsigned short safi, std::ostream& os);
 /// Writes "<AFI:" afi-name ">/<SAFI:" safi-name ">", e.g. <AFI:ipv4>/<SAFI:mplsVpn> for
 /// {1, 128}. Returns `os`.
-std::ostream& formatAfiSafi(AfiSafi afiSafi, std::ostream& os);
+ORVANE_API std::ostream& formatAfiSafi(AfiSafi afiSafi, std::ostream& os);
 /// Writes "<NLRI:" name ">", or <NLRI:unknown> for a code without a name. Returns `os`.
-std::ostream& formatNlriType(NlriType type, std::ostream& os);
+ORVANE_API std::ostream& formatNlriType(NlriType type, std::ostream& os);
 /// The (AFI, SAFI) that `type` maps to; {0, 0} for a code not in the map (65..255).
-AfiSafi bgpRouteKeyParseNlriType(unsigned char type);
+ORVANE_API AfiSafi bgpRouteKeyParseNlriType(unsigned char type);
 
 /// "AFI": native u16 AFI, printed as "<AFI:" name ">". Returns 2.
-unsigned formatAfi(const unsigned char* p, std::ostream& os);
-unsigned lengthAfi(const unsigned char* p); ///< 2
+ORVANE_API unsigned formatAfi(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthAfi(const unsigned char* p); ///< 2
 
 /// "SAFI": one SAFI byte, printed as "<SAFI:" name ">"; the private SAFIs (256 and
 /// above) cannot be carried in it. Returns 1.
-unsigned formatSafiLegacy(const unsigned char* p, std::ostream& os);
-unsigned lengthSafi(const unsigned char* p); ///< 1
+ORVANE_API unsigned formatSafiLegacy(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthSafi(const unsigned char* p); ///< 1
 
 /// "AFS": one native u32 word with the SAFI in its low 16 bits (bytes 0-1) and the AFI
 /// in its high 16 bits (bytes 2-3), the opposite of AfiSafi in memory; printed as
 /// formatAfiSafi prints it: bytes 80 00 01 00 give <AFI:ipv4>/<SAFI:mplsVpn>. Returns 4.
-unsigned formatAfiSafi(const unsigned char* p, std::ostream& os);
-unsigned lengthAfiSafi(const unsigned char* p); ///< 4
+ORVANE_API unsigned formatAfiSafi(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthAfiSafi(const unsigned char* p); ///< 4
 
 /// "NLRI": one NlriType byte, printed as formatNlriType prints it. Returns 1.
-unsigned formatNlriType(const unsigned char* p, std::ostream& os);
-unsigned lengthNlriType(const unsigned char* p); ///< 1
+ORVANE_API unsigned formatNlriType(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthNlriType(const unsigned char* p); ///< 1
 
 /// "NLRI2AFISAFI": one NlriType byte and the pair it maps to, e.g.
 /// <NLRI:v6u><AFI:ipv6>/<SAFI:ucast>; a code not in the map prints
 /// <NLRI:unknown-N><AfiSafi:unknown> with N in decimal. Returns 1.
-unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os);
-unsigned lengthNlriType2AfiSafi(const unsigned char* p); ///< 1
+ORVANE_API unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthNlriType2AfiSafi(const unsigned char* p); ///< 1
 
 } // namespace Orvane

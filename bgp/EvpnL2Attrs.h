@@ -8,6 +8,7 @@
 // Each version's tables are built on its first call and read-only afterwards.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -15,7 +16,7 @@
 namespace Orvane {
 
 /// 8 when bit 0 of the u32 at `p` is set, otherwise 4.
-unsigned lengthEvpnL2Attrs(const unsigned char* p);
+ORVANE_API unsigned lengthEvpnL2Attrs(const unsigned char* p);
 
 /// The shared worker. Bit 0 clear: prints nothing, returns 4. Otherwise prints
 /// ", evpnL2Attrs:" (it always follows another field), the B, P and C letters (upper
@@ -23,18 +24,18 @@ unsigned lengthEvpnL2Attrs(const unsigned char* p);
 /// ";FxcMode(N)" for a code not in `fxcModeNames`), the same for VlanNormalization
 /// (";VlanNormalization(N)"), a code 0 printing nothing in either, then ";mtu=" and the
 /// mtu. Returns 8. A null name in a table sets the stream's bad bit.
-unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
-                           const NameTable& fxcModeNames,
-                           const NameTable& vlanNormalizationNames, bool printF);
+ORVANE_API unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
+                                      const NameTable& fxcModeNames,
+                                      const NameTable& vlanNormalizationNames, bool printF);
 
 /// "EL2old": version 1 tables (1 fxcVlanUnaware, 2 fxcVlanAware; 1 normalizedDoubleVlan,
 /// 2 normalizedSingleVlan), no F letter.
-unsigned formatEvpnL2AttrsV1(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatEvpnL2AttrsV1(const unsigned char* p, std::ostream& os);
 /// "EL2": version 2 tables (1 fxcVlanSignaled, 2 fxcDefault; 1 normalizedSingleVlan,
 /// 2 normalizedDoubleVlan), no F letter.
-unsigned formatEvpnL2AttrsV2(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatEvpnL2AttrsV2(const unsigned char* p, std::ostream& os);
 /// "EL2V3": the version 2 tables, with the F letter, e.g.
 /// , evpnL2Attrs:BpcF;fxcUndefined;normalizedSingleVlan;mtu=1500
-unsigned formatEvpnL2AttrsV3(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatEvpnL2AttrsV3(const unsigned char* p, std::ostream& os);
 
 } // namespace Orvane

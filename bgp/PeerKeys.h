@@ -7,6 +7,7 @@
 // address. Names are host strings. Types 0 and 8..255 have no body and print nothing.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -34,22 +35,22 @@ extern const NameTable adjRibinTypeNames;
 
 /// "BPK": the body of the peer-key type at p[0]; nothing for types 0 and 8..255.
 /// Returns 1 + the counts of the body's fields.
-unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os);
 /// 1 + the body's size: 21 per generic address, 5, 17 or 1 per Opt generic address by
 /// its tag, 4 per IPv4 address, the host's lengthString per name.
-unsigned lengthBgpPeerKey(const unsigned char* p);
+ORVANE_API unsigned lengthBgpPeerKey(const unsigned char* p);
 
 /// "BMPRK": u16 AFI, u8 SAFI, the monitored peer's name (host string), then the route
 /// key of that AFI and SAFI. Prints
 ///    RouteKey<(AFI/SAFI) (NAME; KEY)>
 /// with a blank at each end, the key as formatBgpRouteKey prints it. Returns 3 + the
 /// name's count + the key's count (which wraps for a family without a layout).
-unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os);
 /// 3 + lengthString + lengthBgpRouteKey at the end of the name.
-unsigned lengthBmpRouteKey(const unsigned char* p);
+ORVANE_API unsigned lengthBmpRouteKey(const unsigned char* p);
 
 /// "RIBINT": "<AdjRibin:" the name of the code at p[0], or "unknown", ">". Returns 1.
-unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os);
-unsigned lengthAdjRibinType(const unsigned char* p); ///< 1
+ORVANE_API unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthAdjRibinType(const unsigned char* p); ///< 1
 
 } // namespace Orvane

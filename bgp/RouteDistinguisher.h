@@ -6,6 +6,8 @@
 // takes its type from bits 48-63, the RT from bits 56-63 (the subtype is ignored).
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -18,7 +20,7 @@ namespace Orvane {
 ///   other: "0x" and the value in 16 zero-padded lower-case hex digits.
 /// An unknown type leaves `os` in hexadecimal with fill '0': whatever the same stream
 /// prints next comes out in hex until the caller resets it. This is kept deliberately.
-void formatRouteDistinguisher(unsigned long long rd, std::ostream& os);
+ORVANE_API void formatRouteDistinguisher(unsigned long long rd, std::ostream& os);
 
 /// Prints a route target (extended community) by its type (bits 56-63):
 ///   0: global (bits 32-47) ":" local (bits 0-31), both decimal;
@@ -27,22 +29,22 @@ void formatRouteDistinguisher(unsigned long long rd, std::ostream& os);
 ///      65000L:100 and 70000:100;
 ///   other: "INVALID:0x" and the value in upper-case hex, unpadded.
 /// `os` is left in decimal with upper case cleared; other flags are not restored.
-void formatRouteTarget(unsigned long long rt, std::ostream& os);
+ORVANE_API void formatRouteTarget(unsigned long long rt, std::ostream& os);
 
 /// "RD": the u64 at `p`, printed as formatRouteDistinguisher. Returns 8.
-unsigned formatRouteDistinguisher(const unsigned char* p, std::ostream& os);
-unsigned lengthRouteDistinguisher(const unsigned char* p); ///< 8
+ORVANE_API unsigned formatRouteDistinguisher(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthRouteDistinguisher(const unsigned char* p); ///< 8
 
 /// "RT": the u64 at `p`, printed as formatRouteTarget. Returns 8.
-unsigned formatRouteTarget(const unsigned char* p, std::ostream& os);
-unsigned lengthRouteTarget(const unsigned char* p); ///< 8
+ORVANE_API unsigned formatRouteTarget(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthRouteTarget(const unsigned char* p); ///< 8
 
 /// "RTMRK": RT membership route key: u32 origin AS, u64 route target, u8 prefix length.
 /// Prints "origin: " AS ";" RT "/" length "; value: 0x" and the RT again in 16
 /// zero-padded upper-case hex digits, e.g.
 /// origin: 65000;100:5/96; value: 0x0000006400000005. The stream is left in decimal,
 /// upper case cleared, with fill '0'. Returns 13.
-unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os);
-unsigned lengthRtMembershipRouteKey(const unsigned char* p); ///< 13
+ORVANE_API unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthRtMembershipRouteKey(const unsigned char* p); ///< 13
 
 } // namespace Orvane

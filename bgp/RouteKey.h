@@ -9,6 +9,8 @@
 // to the last non-zero byte, ".." standing for the zero bytes left out at the end.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -17,7 +19,7 @@ namespace Orvane {
 /// same bytes. A combination without a layout prints nothing and returns 0xFFFFFFFF.
 /// An RD of unknown type leaves the stream in hexadecimal (as its printer does), so the
 /// numbers after it in the key print in hex too.
-unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
-                           std::ostream& os);
+ORVANE_API unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi,
+                                      const unsigned char* key, std::ostream& os);
 
 } // namespace Orvane

@@ -13,6 +13,7 @@
 #pragma once
 
 #include "bgp/FieldLayout.h"
+#include "registry/Export.h"
 
 namespace Orvane {
 
@@ -43,6 +44,7 @@ const RouteKeyLayout* findRouteKeyLayout(unsigned short afi, unsigned short safi
 /// privVplsAd and privVplsVe, an unknown EVPN, VPLS or link-state letter, a linkState
 /// SAFI other than 71, and a 48bitMac SAFI other than 241..248, 250, 257..264 and 266.
 /// Every SAFI of ipv4 and ipv6 has a layout (the plain prefix for the unlisted ones).
-unsigned lengthBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key);
+ORVANE_API unsigned lengthBgpRouteKey(unsigned short afi, unsigned short safi,
+                                      const unsigned char* key);
 
 } // namespace Orvane

@@ -10,6 +10,8 @@
 // layout prints no key and its length wraps to 8 ("BRK") or 5 ("BRY").
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -20,14 +22,14 @@ void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, std::ost
 
 /// "BRK": the stored AFI and SAFI choose the key's layout; the NLRI type is only
 /// printed. Returns 9 + the key's count.
-unsigned formatBgpRouteKeyOld(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBgpRouteKeyOld(const unsigned char* p, std::ostream& os);
 /// 9 + lengthBgpRouteKey(AFI, SAFI, p + 9).
-unsigned lengthBgpRouteKeyOld(const unsigned char* p);
+ORVANE_API unsigned lengthBgpRouteKeyOld(const unsigned char* p);
 
 /// "BRY": the NLRI type's (AFI, SAFI) chooses the key's layout. Returns 6 + the key's
 /// count.
-unsigned formatBgpRouteKeyNew(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBgpRouteKeyNew(const unsigned char* p, std::ostream& os);
 /// 6 + lengthBgpRouteKey of the NLRI type's (AFI, SAFI) at p + 6.
-unsigned lengthBgpRouteKeyNew(const unsigned char* p);
+ORVANE_API unsigned lengthBgpRouteKeyNew(const unsigned char* p);
 
 } // namespace Orvane

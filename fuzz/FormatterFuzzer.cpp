@@ -25,7 +25,18 @@
 //    wrappers around a link-state prefix with a bad tag or an unknown family, and "GR"
 //    and "GRO" around a sequence with a bad width after up to 255 elements of 9 bytes).
 // Any other read outside the block is a bug in the formatter.
+//
+// Records (with ORVANE_FUZZ_RECORDS=1 set): the first byte gives the argument count
+// (1 + byte % 8), the next bytes pick each argument's id (an index into the sorted ids,
+// then the host's base types), the rest is the record. The record walker decodes it in
+// its guarded buffer as ovfmt does; then the arguments that fit are walked again in
+// place in a heap block of exactly their bytes, and must give the same lengths, counts
+// and texts. Ids with guard areas above are left out of records: they read outside their
+// own length.
+#include "host/BaseTypes.h"
+#include "host/Registry.h"
 #include "registry/FormatMap.h"
+#include "tools/ovfmt/Record.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -134,9 +145,60 @@ void fuzzOne(const Target& t, const unsigned char* data, std::size_t size) {
     formatExact(t, value, length); // zero-extended when the input is shorter
 }
 
+// The ids a record may hold, by selector: the sorted plug-in ids, then the base types.
+// An id with a guard area has no pair here and ends the input.
+std::vector<const host::FormatterPair*> recordIds() {
+  host::registerBaseTypes();
+  std::vector<std::string> ids;
+  for (const Target& t : targets()) ids.push_back(t.id);
+  for (auto id : host::baseTypeIds()) ids.emplace_back(id);
+  std::vector<const host::FormatterPair*> pairs;
+  for (const auto& id : ids) pairs.push_back(kGuards.count(id) ? nullptr : host::findFormatter(id));
+  return pairs;
+}
+
+void fail(const char* what, std::size_t argument) {
+  std::fprintf(stderr, "record argument %zu: %s differs in place\n", argument + 1, what);
+  std::abort();
+}
+
+void fuzzRecord(const unsigned char* data, std::size_t size) {
+  static const auto pairs = recordIds();
+  if (size == 0) return;
+  const std::size_t count = 1 + data[0] % 8;
+  if (size < 1 + count) return;
+  std::vector<ovfmt::ArgumentType> types;
+  for (std::size_t i = 0; i < count; ++i) {
+    const host::FormatterPair* pair = pairs[data[1 + i] % pairs.size()];
+    if (!pair) return;
+    types.push_back({"", pair});
+  }
+  static ovfmt::RecordWalker guarded, exact;
+  guarded.load({data + 1 + count, size - 1 - count});
+  const auto arguments = guarded.walk(types);
+  const std::size_t fit = arguments.size() - (guarded.finished() ? 0 : 1);
+  const std::size_t end = fit ? arguments[fit - 1].offset + arguments[fit - 1].length : 0;
+
+  std::unique_ptr<unsigned char[]> block(new unsigned char[end ? end : 1]);
+  std::memcpy(block.get(), data + 1 + count, end);
+  const auto again = exact.walk(std::span(types).first(fit), {block.get(), end});
+  if (again.size() != fit || !exact.finished() || exact.leftover() != 0) fail("the walk", fit);
+  for (std::size_t i = 0; i < fit; ++i) {
+    if (again[i].offset != arguments[i].offset || again[i].length != arguments[i].length ||
+        again[i].consumed != arguments[i].consumed)
+      fail("a count", i);
+    if (again[i].text != arguments[i].text) fail("the text", i);
+  }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
+  static const bool records = std::getenv("ORVANE_FUZZ_RECORDS") != nullptr;
+  if (records) {
+    fuzzRecord(data, size);
+    return 0;
+  }
   const auto& all = targets();
   if (all.size() == 1) {
     fuzzOne(all.front(), data, size);

@@ -5,6 +5,8 @@
 // life of the process.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <string>
 #include <vector>
 
@@ -18,13 +20,13 @@ struct LoadError {
 
 /// Loads the shared object at `path`. Fails when the loader rejects it or when it
 /// registers no formatter (it is not a plug-in).
-std::vector<LoadError> loadPlugin(const std::string& path);
+ORVANE_API std::vector<LoadError> loadPlugin(const std::string& path);
 
 /// Loads every `*.so` in `directory`, in name order. Fails for a directory that cannot
 /// be read or holds no `*.so`; one bad file does not stop the others from loading.
-std::vector<LoadError> loadPluginDirectory(const std::string& directory);
+ORVANE_API std::vector<LoadError> loadPluginDirectory(const std::string& directory);
 
 /// loadPluginDirectory() for a directory, loadPlugin() for anything else.
-std::vector<LoadError> loadPluginPath(const std::string& path);
+ORVANE_API std::vector<LoadError> loadPluginPath(const std::string& path);
 
 } // namespace Orvane::host

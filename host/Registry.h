@@ -1,6 +1,7 @@
 // The host's view of what plug-ins registered: lookup by id and the call log.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/Formatter.h"
 
 #include <string>
@@ -24,12 +25,12 @@ struct RegistrationCall {
 };
 
 /// The pair registered for `id`, or nullptr when the id is unknown.
-const FormatterPair* findFormatter(std::string_view id);
+ORVANE_API const FormatterPair* findFormatter(std::string_view id);
 
 /// Every registered id, sorted.
-std::vector<std::string> registeredIds();
+ORVANE_API std::vector<std::string> registeredIds();
 
 /// Every registration call received so far, duplicates included, in order.
-std::vector<RegistrationCall> registrationLog();
+ORVANE_API std::vector<RegistrationCall> registrationLog();
 
 } // namespace Orvane::host

@@ -2,30 +2,32 @@
 // "ARPIPIK". Each prints as bracketed fields without blanks: [10.0.0.1][Ethernet1].
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "ARPICK": "[" address as "IGO" "][" interface string "]". An address tag other than
 /// 1 or 2 makes the address one byte long and print [unknown].
-unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os);
 /// lengthIpGenAddrOpt + lengthString.
-unsigned lengthArpInputConfigKey(const unsigned char* p);
+ORVANE_API unsigned lengthArpInputConfigKey(const unsigned char* p);
 
 /// "ARPICE": an "ARPICK" key, then "[" MAC "][" u8 flag "][" u32 "]"; when the flag
 /// byte is 1, two more u32 follow: ...[flag][a][b][c].
-unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os);
 /// The key, 6, lengthU8 and lengthU32, plus two lengthU32 when the flag byte is 1.
-unsigned lengthArpInputConfigEntry(const unsigned char* p);
+ORVANE_API unsigned lengthArpInputConfigEntry(const unsigned char* p);
 
 /// "ARPIPK": "[" u8 "][" u32 "]".
-unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os);
 /// lengthU8 + lengthU32.
-unsigned lengthArpInputPriorityKey(const unsigned char* p);
+ORVANE_API unsigned lengthArpInputPriorityKey(const unsigned char* p);
 
 /// "ARPIPIK": an "ARPIPK" key, then "[" interface string "]".
-unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os);
 /// lengthArpInputPriorityKey + lengthString.
-unsigned lengthArpInputPriorityInterfaceKey(const unsigned char* p);
+ORVANE_API unsigned lengthArpInputPriorityInterfaceKey(const unsigned char* p);
 
 } // namespace Orvane

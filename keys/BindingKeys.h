@@ -6,54 +6,56 @@
 // the same text. MAC addresses print as "E".
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "DMBK": "duid(type: " u16 ", hwtype: " u16 ", lladdr: " MAC ", uuid: " string
 /// ", entno: " u32 ", entId: " string ")".
-unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os);
 /// Twice the width lengthU16 gives for the first u16, then 6, lengthString, lengthU32
 /// and lengthString.
-unsigned lengthDuidMacBindingKey(const unsigned char* p);
+ORVANE_API unsigned lengthDuidMacBindingKey(const unsigned char* p);
 
 /// "IPMACV2": "[" address as "IG" "," MAC "," u32 "," u8 "]".
-unsigned formatIpMacV2(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpMacV2(const unsigned char* p, std::ostream& os);
 /// 27 + lengthU32 + lengthU8.
-unsigned lengthIpMacV2(const unsigned char* p);
+ORVANE_API unsigned lengthIpMacV2(const unsigned char* p);
 
 /// "IPMACV2O": as "IPMACV2" with the address as "IGO".
-unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os);
 /// lengthIpGenAddrOpt + 6 + lengthU32 + lengthU8.
-unsigned lengthIpMacV2Optimized(const unsigned char* p);
+ORVANE_API unsigned lengthIpMacV2Optimized(const unsigned char* p);
 
 /// "MV": "[" MAC "," IPv4 address as "I" "," u32 "," u8 "]".
-unsigned formatMacVtep(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMacVtep(const unsigned char* p, std::ostream& os);
 /// 10 + lengthU32 + lengthU8.
-unsigned lengthMacVtep(const unsigned char* p);
+ORVANE_API unsigned lengthMacVtep(const unsigned char* p);
 
 /// "MVP": "[" MAC "," u16 "]".
-unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os);
 /// 6 + lengthU16.
-unsigned lengthMacVlanPair(const unsigned char* p);
+ORVANE_API unsigned lengthMacVlanPair(const unsigned char* p);
 
 /// "VIP": "[" u16 VLAN "," address as "IG" "]".
-unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os);
 /// lengthU16 + 21.
-unsigned lengthVlanIpPair(const unsigned char* p);
+ORVANE_API unsigned lengthVlanIpPair(const unsigned char* p);
 
 /// "VIPO": as "VIP" with the address as "IGO".
-unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os);
 /// lengthU16 + lengthIpGenAddrOpt of the address after it.
-unsigned lengthVlanIpPairOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthVlanIpPairOptimized(const unsigned char* p);
 
 /// "VIDP": "(" u32 "-" u32 ")".
-unsigned formatVrfIdPair(const unsigned char* p, std::ostream& os);
-unsigned lengthVrfIdPair(const unsigned char* p); ///< 8
+ORVANE_API unsigned formatVrfIdPair(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthVrfIdPair(const unsigned char* p); ///< 8
 
 /// "VSP": "[" u32 VNI "," string "," string "]".
-unsigned formatVniSourcePair(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatVniSourcePair(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthString + lengthString.
-unsigned lengthVniSourcePair(const unsigned char* p);
+ORVANE_API unsigned lengthVniSourcePair(const unsigned char* p);
 
 } // namespace Orvane

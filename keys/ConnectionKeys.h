@@ -6,6 +6,8 @@
 // names are host strings.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -13,40 +15,40 @@ namespace Orvane {
 /// "C" (13 bytes): source address ":" port " -> " destination address ":" port ","
 /// protocol, e.g. 10.0.0.1:1024 -> 10.0.0.2:80,6. The ports and the protocol are
 /// inserted directly, so they follow the stream's base. Returns 13.
-unsigned formatConnTuple(const unsigned char* p, std::ostream& os);
-unsigned lengthConnTuple(const unsigned char* p); ///< 13
+ORVANE_API unsigned formatConnTuple(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthConnTuple(const unsigned char* p); ///< 13
 
 /// "NSK": "acl: " string ", addr: " address ":" port. The port follows the stream's
 /// base like those of "C".
-unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os);
 /// lengthString + 6.
-unsigned lengthNatStaticKey(const unsigned char* p);
+ORVANE_API unsigned lengthNatStaticKey(const unsigned char* p);
 
 /// "NDK": "acl: " string ", group: " u16.
-unsigned formatNatDynamicKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatNatDynamicKey(const unsigned char* p, std::ostream& os);
 /// lengthString + lengthU16.
-unsigned lengthNatDynamicKey(const unsigned char* p);
+ORVANE_API unsigned lengthNatDynamicKey(const unsigned char* p);
 
 /// "NDC": "intf: " string ", conn: " a "C" tuple starting where the string ends.
-unsigned formatNatDynamicConn(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatNatDynamicConn(const unsigned char* p, std::ostream& os);
 /// lengthString + 13.
-unsigned lengthNatDynamicConn(const unsigned char* p);
+ORVANE_API unsigned lengthNatDynamicConn(const unsigned char* p);
 
 /// "PMK": "(" address ":" u16 ":" u8 ")".
-unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthU16 + lengthU8.
-unsigned lengthUpnpPortMapKey(const unsigned char* p);
+ORVANE_API unsigned lengthUpnpPortMapKey(const unsigned char* p);
 
 /// "IFK": "vrfId:" u32 " vlanId:" u16 " srcAddr:" address " dstAddr:" address
 /// " ipProtocol:" u8 " srcPort:" u16 " dstPort:" u16 (19 bytes with the usual host
 /// widths).
-unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os);
 /// The host lengths of the fields, and 4 for each address.
-unsigned lengthIpFlowKey(const unsigned char* p);
+ORVANE_API unsigned lengthIpFlowKey(const unsigned char* p);
 
 /// "HIFK": an "IFK" key, " intf:", then the interface string that follows the key.
-unsigned formatHoIpFlowKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatHoIpFlowKey(const unsigned char* p, std::ostream& os);
 /// lengthIpFlowKey + lengthString.
-unsigned lengthHoIpFlowKey(const unsigned char* p);
+ORVANE_API unsigned lengthHoIpFlowKey(const unsigned char* p);
 
 } // namespace Orvane

@@ -5,6 +5,8 @@
 // each read where the previous field's count ends.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -12,38 +14,38 @@ namespace Orvane {
 /// "F": a 128-bit mask of FAP ids, two native u64 words (bit i of the second word is
 /// id 64 + i), printed as runs: bits 0, 2, 3, 4 and 127 print (0,2-4,127), no bit
 /// prints (). Runs cross the word boundary. Returns 16.
-unsigned formatFapmask(const unsigned char* p, std::ostream& os);
-unsigned lengthFapmask(const unsigned char* p); ///< 16
+ORVANE_API unsigned formatFapmask(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned lengthFapmask(const unsigned char* p); ///< 16
 
 /// "OUTACTYPE": "(fapId: " u16 ", acIndex: " u32 ", outAcType: " u8 ")".
-unsigned formatOutAcTypeKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatOutAcTypeKey(const unsigned char* p, std::ostream& os);
 /// lengthU16 + lengthU32 + lengthU8.
-unsigned lengthOutAcTypeKey(const unsigned char* p);
+ORVANE_API unsigned lengthOutAcTypeKey(const unsigned char* p);
 
 /// "OUTAC": "(fapMask: " mask as "F" ", acFormat: " u32 ", " u32 ", " u32 ", acIndex: "
 /// u32 ", pool: " u8 ", appId: " u8 ", intfId: " string ", vlanId: " u16
 /// ", innerOutlif: " u32 ", isL2SubIntf: " bool ")". The second and third u32 have no
 /// label.
-unsigned formatOutAcKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatOutAcKey(const unsigned char* p, std::ostream& os);
 /// 16 + the host lengths of the fields after the mask, each asked at its field.
-unsigned lengthOutAcKey(const unsigned char* p);
+ORVANE_API unsigned lengthOutAcKey(const unsigned char* p);
 
 /// "SVIEVE": "(vlanIntfId: " string ", intfId: " string ", fapId: " u16 ", lagIntfId: "
 /// string ")".
-unsigned formatSviEgressEveKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatSviEgressEveKey(const unsigned char* p, std::ostream& os);
 /// The four host lengths in order.
-unsigned lengthSviEgressEveKey(const unsigned char* p);
+ORVANE_API unsigned lengthSviEgressEveKey(const unsigned char* p);
 
 /// "SVIESEM": "(eveKey: " an "SVIEVE" key ", outAcTypeKey: " an "OUTACTYPE" key ")".
-unsigned formatSviEgressEsemRequestKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatSviEgressEsemRequestKey(const unsigned char* p, std::ostream& os);
 /// lengthSviEgressEveKey + lengthOutAcTypeKey after it.
-unsigned lengthSviEgressEsemRequestKey(const unsigned char* p);
+ORVANE_API unsigned lengthSviEgressEsemRequestKey(const unsigned char* p);
 
 /// "UDF": string " ethtype:0x" u16 hex " " string " ipProto:" u8 " innerEthType:0x" u16
 /// hex " offset:" u8 " length:" u8 " lagMask:0x" u32 hex " priority:" u8. The stream is
 /// left in decimal.
-unsigned formatUdfDesc(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatUdfDesc(const unsigned char* p, std::ostream& os);
 /// The nine host lengths in order.
-unsigned lengthUdfDesc(const unsigned char* p);
+ORVANE_API unsigned lengthUdfDesc(const unsigned char* p);
 
 } // namespace Orvane

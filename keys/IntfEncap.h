@@ -4,6 +4,8 @@
 // priority. It is printed by formatEncap inside "IE2" and is not registered by itself.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -11,18 +13,18 @@ namespace Orvane {
 /// A VLAN tag: a standard tag (TPID 0x8100, priority 0) prints only the VLAN id, any
 /// other prints "0x" TPID in hex ":p" priority ":" VLAN id, e.g. 0x88a8:p3:10, leaving
 /// the stream in decimal. Returns 5.
-unsigned formatEncap(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatEncap(const unsigned char* p, std::ostream& os);
 /// lengthU16 + lengthU16 + lengthU8: 5.
-unsigned lengthEncap(const unsigned char* p);
+ORVANE_API unsigned lengthEncap(const unsigned char* p);
 
 /// "IE": interface string "(" u16 "," u16 ")", e.g. Ethernet1(10,20).
-unsigned formatIntfEncap(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIntfEncap(const unsigned char* p, std::ostream& os);
 /// lengthString + lengthU16 + lengthU16.
-unsigned lengthIntfEncap(const unsigned char* p);
+ORVANE_API unsigned lengthIntfEncap(const unsigned char* p);
 
 /// "IE2": interface string "(" outer tag "," inner tag ")", both as formatEncap.
-unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os);
 /// lengthString + two VLAN tags.
-unsigned lengthIntfEncapV2(const unsigned char* p);
+ORVANE_API unsigned lengthIntfEncapV2(const unsigned char* p);
 
 } // namespace Orvane

@@ -11,6 +11,8 @@
 // kinds 3 to 254 are invalid.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -20,9 +22,9 @@ namespace Orvane {
 /// other than 1, 2, 4 or 8 ends the walk: the separator before that element is still
 /// printed (it is an element of the sequence), nothing of the element itself, and the
 /// result is 0xFFFFFFFF. Otherwise returns the offset after the last element.
-unsigned formatUnsignedSequence(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatUnsignedSequence(const unsigned char* p, std::ostream& os);
 /// 2 + the sum of 1 + w over the elements, or 0xFFFFFFFF at the first bad width.
-unsigned lengthUnsignedSequence(const unsigned char* p);
+ORVANE_API unsigned lengthUnsignedSequence(const unsigned char* p);
 
 /// "IDS": the ids as runs in brackets, e.g. (1-3,10); an empty set prints ().
 ///
@@ -31,22 +33,22 @@ unsigned lengthUnsignedSequence(const unsigned char* p);
 /// the id just after the previous word (its base + 64), one more than the run's true
 /// last id: (62-64,128) for bits 62, 63 of word 0 and bit 0 of word 2. This skew is
 /// kept deliberately. Returns 9C + 1.
-unsigned formatIdSet(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIdSet(const unsigned char* p, std::ostream& os);
 /// 9C + 1.
-unsigned lengthIdSet(const unsigned char* p);
+ORVANE_API unsigned lengthIdSet(const unsigned char* p);
 
 /// "GR": kind 0 prints "n/a"; 1 the prefix as "PG"; 2 the sequence as "US"; 255 the two
 /// addresses as "IG" joined by "/"; other kinds print nothing. Returns 1 + the body's
 /// count, 0xFFFFFFFF for an invalid kind.
-unsigned formatGenRange(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatGenRange(const unsigned char* p, std::ostream& os);
 /// 1, 19, 1 + the "US" length, 43 or 0xFFFFFFFF by kind.
-unsigned lengthGenRange(const unsigned char* p);
+ORVANE_API unsigned lengthGenRange(const unsigned char* p);
 
 /// "GRO": as "GR" with the prefix as "PGO" and the addresses as "IGO", the second
 /// starting where the first ends.
-unsigned formatGenRangeOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatGenRangeOptimized(const unsigned char* p, std::ostream& os);
 /// 1 + the body's length; an invalid "PGO" tag (0xFFFFFFFF) wraps this to 0, and an
 /// invalid kind gives 0xFFFFFFFF.
-unsigned lengthGenRangeOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthGenRangeOptimized(const unsigned char* p);
 
 } // namespace Orvane

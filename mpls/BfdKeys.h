@@ -6,19 +6,21 @@
 // same text. An unknown address tag prints "unknown" and the rest of the key follows.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "BP": "peer(ip:" ip ", vrf:" vrf ", srcip:" srcip ", intf:" intf ", tunnelId:" u64
 /// ", type:" u32 ")". Returns the six fields' counts added.
-unsigned formatBfdPeer(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBfdPeer(const unsigned char* p, std::ostream& os);
 /// 21 + lengthString + 21 + lengthString + lengthU64 + lengthU32, each at its offset.
-unsigned lengthBfdPeer(const unsigned char* p);
+ORVANE_API unsigned lengthBfdPeer(const unsigned char* p);
 
 /// "BPO": as "BP" with Opt addresses.
-unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os);
 /// As lengthBfdPeer with the two addresses sized by their tags.
-unsigned lengthBfdPeerOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthBfdPeerOptimized(const unsigned char* p);
 
 } // namespace Orvane

@@ -14,32 +14,34 @@
 // for "CPK", 4 for a kind-0 "CCPK"). Length and format agree on those totals.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "CV": the vertex text from the table above. Returns the vertex size, or 0xFFFFFFFF
 /// with nothing printed for a type above 6.
-unsigned formatCspfVertex(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatCspfVertex(const unsigned char* p, std::ostream& os);
 /// The vertex size by type; 0xFFFFFFFF for a type above 6.
-unsigned lengthCspfVertex(const unsigned char* p);
+ORVANE_API unsigned lengthCspfVertex(const unsigned char* p);
 
 /// "CPK": "dst=" vertex ", id=" u32. Returns the vertex and u32 counts added.
-unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os);
 /// The vertex size + 4 (3 after an invalid vertex, wrapped).
-unsigned lengthCspfPathKey(const unsigned char* p);
+ORVANE_API unsigned lengthCspfPathKey(const unsigned char* p);
 
 /// "CCPK": kind byte, then kind 0 prints "pathKey=<" and a "CPK" key and ">", kind 1
 /// prints "p2mpPathKey=<" and a "CP2MPK" key and ">"; the kind byte counts 1 more.
 /// Any other kind prints nothing and returns 0xFFFFFFFF.
-unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os);
 /// Kind 0: 5 + the vertex size at byte 1 (4 after an invalid vertex, wrapped); kind 1:
 /// 5; any other kind: 0xFFFFFFFF.
-unsigned lengthCspfClientPathKey(const unsigned char* p);
+ORVANE_API unsigned lengthCspfClientPathKey(const unsigned char* p);
 
 /// "CP2MPK": "id=" u32. Returns the u32 count.
-unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os);
 /// 4.
-unsigned lengthCspfP2mpPathKey(const unsigned char* p);
+ORVANE_API unsigned lengthCspfP2mpPathKey(const unsigned char* p);
 
 } // namespace Orvane

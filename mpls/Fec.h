@@ -10,22 +10,24 @@
 // Each field is read where the previous one ended; counts are unsigned 32-bit and wrap.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "FM": the FEC with plain generic addresses and prefixes. Returns 19, 9, 26, 23 by
 /// type, or 0xFFFFFFFF for a type above 3.
-unsigned formatMplsFwdEqvClass(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMplsFwdEqvClass(const unsigned char* p, std::ostream& os);
 /// As formatMplsFwdEqvClass returns, without printing.
-unsigned lengthMplsFwdEqvClass(const unsigned char* p);
+ORVANE_API unsigned lengthMplsFwdEqvClass(const unsigned char* p);
 
 /// "FMO": the FEC with Opt addresses and Optimized prefixes; prints the same text as
 /// "FM". Returns 1 + the body's counts, or 0xFFFFFFFF for a type above 3.
-unsigned formatMplsFwdEqvClassOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMplsFwdEqvClassOptimized(const unsigned char* p, std::ostream& os);
 /// Type 0: 1 + the Optimized prefix length; 1: 9; 2: 1 + the Opt address length + 4;
 /// 3: 1 + the prefix length + 4; else 0xFFFFFFFF. Sums wrap: a prefix with an unknown
 /// family (length 0xFFFFFFFF) gives 0 for type 0 and 4 for type 3.
-unsigned lengthMplsFwdEqvClassOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthMplsFwdEqvClassOptimized(const unsigned char* p);
 
 } // namespace Orvane

@@ -6,6 +6,8 @@
 //   5  IPv4 router id: bytes 1-4, a native u32 (overlapping the system-id bytes 3-4)
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -14,8 +16,8 @@ namespace Orvane {
 /// lowercase hex digits (0102.0304.0506); kind 2 appends "." and the pseudonode in two
 /// hex digits; kind 5 prints the router id as a dotted IPv4 address; any other kind
 /// prints "unknown". Returns 9.
-unsigned formatIgpNodeId(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIgpNodeId(const unsigned char* p, std::ostream& os);
 /// 9.
-unsigned lengthIgpNodeId(const unsigned char* p);
+ORVANE_API unsigned lengthIgpNodeId(const unsigned char* p);
 
 } // namespace Orvane

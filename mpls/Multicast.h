@@ -7,6 +7,7 @@
 // second one is read one byte before the value, and the wrapped total is the result.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -18,7 +19,7 @@ namespace Orvane {
 /// Writable and exported: both "MF" functions read it at every call, so replacing it
 /// changes the letters and the encoded size of every later value. The library itself
 /// never writes it.
-extern const char* mRouteFlags;
+ORVANE_API extern const char* mRouteFlags;
 
 /// Contents of the multicast tunnel type name table.
 inline constexpr std::pair<unsigned, const char*> kMulticastTunnelTypeNameEntries[] = {
@@ -28,53 +29,53 @@ inline constexpr std::pair<unsigned, const char*> kMulticastTunnelTypeNameEntrie
 extern const NameTable multicastTunnelTypeNames;
 
 /// "MK": "(" generic address ", " generic address ")". Returns 42.
-unsigned formatMRouteKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMRouteKey(const unsigned char* p, std::ostream& os);
 /// 42.
-unsigned lengthMRouteKey(const unsigned char* p);
+ORVANE_API unsigned lengthMRouteKey(const unsigned char* p);
 
 /// "MKO": as "MK" with Opt addresses.
-unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Opt address sizes (5, 17 or 1 each) added.
-unsigned lengthMRouteKeyOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthMRouteKeyOptimized(const unsigned char* p);
 
 /// "MF": one byte per letter of mRouteFlags; prints the letters of the non-zero bytes
 /// in order, then "E" when bytes 1 and 2 (W and S) are both zero: no flag set prints
 /// "E", R, S and J set print "RSJ". The string is re-read and re-measured at every step.
 /// Returns the length of the string mRouteFlags points at.
-unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os);
 /// The length of the string mRouteFlags points at (13 initially).
-unsigned lengthMRouteFlags(const unsigned char* p);
+ORVANE_API unsigned lengthMRouteFlags(const unsigned char* p);
 
 /// "MIJ": u32 join state: 0 "noInfo", 1 "prunePending", any other "joined". Returns 4.
-unsigned formatMRouteIntfJoinState(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMRouteIntfJoinState(const unsigned char* p, std::ostream& os);
 /// 4.
-unsigned lengthMRouteIntfJoinState(const unsigned char* p);
+ORVANE_API unsigned lengthMRouteIntfJoinState(const unsigned char* p);
 
 /// "MIR": u32 RPT join state: 0 "rptNoInfo", 1 "rptPruned", any other
 /// "rptPrunePending". Returns 4.
-unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os);
 /// 4.
-unsigned lengthMRouteIntfRptJoinState(const unsigned char* p);
+ORVANE_API unsigned lengthMRouteIntfRptJoinState(const unsigned char* p);
 
 /// "MFK": "(" IPv4 "/" u8 ", " IPv4 "/" u8 ")", the lengths in decimal:
 /// (10.0.0.1/32, 239.1.1.1/32). Returns 10.
-unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os);
 /// 10.
-unsigned lengthMfibRouteKey(const unsigned char* p);
+ORVANE_API unsigned lengthMfibRouteKey(const unsigned char* p);
 
 /// "MFGK": "(" generic prefix ", " generic prefix ")". Returns 36.
-unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os);
 /// 36.
-unsigned lengthMfibGenRouteKey(const unsigned char* p);
+ORVANE_API unsigned lengthMfibGenRouteKey(const unsigned char* p);
 
 /// "MFGKO": as "MFGK" with Optimized prefixes.
-unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Optimized prefix sizes added, in wrapping 32-bit arithmetic.
-unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p);
 
 /// "MTT": the tunnel type's name, or the code in decimal when it has none. Returns 1.
-unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os);
 /// 1.
-unsigned lengthMulticastTunnelType(const unsigned char* p);
+ORVANE_API unsigned lengthMulticastTunnelType(const unsigned char* p);
 
 } // namespace Orvane

@@ -7,6 +7,7 @@
 // (3 for "RRRKO", 1 for "PGKRO"); that wrapped size is the result, not an error.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -37,46 +38,46 @@ inline constexpr std::pair<unsigned, const char*> kRoutingProtocolNameEntries[] 
 extern const NameTable routingProtocolNames;
 
 /// "RRRK": "(" u32 ", " generic prefix ")". Returns the two fields' counts added.
-unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os);
 /// lengthU32 + 18.
-unsigned lengthRibRouteKey(const unsigned char* p);
+ORVANE_API unsigned lengthRibRouteKey(const unsigned char* p);
 
 /// "RRRKO": as "RRRK" with an Optimized prefix.
-unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// lengthU32 + the Optimized prefix size (wraps to 3 for an unknown prefix tag).
-unsigned lengthRibRouteKeyOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthRibRouteKeyOptimized(const unsigned char* p);
 
 /// "RVK": "(id:" u64 ", vrfId:" u32 ", proto:" protocol ")". Returns the u64 and u32
 /// counts + 1.
-unsigned formatRibViaKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatRibViaKey(const unsigned char* p, std::ostream& os);
 /// lengthU64 + lengthU32 + 1.
-unsigned lengthRibViaKey(const unsigned char* p);
+ORVANE_API unsigned lengthRibViaKey(const unsigned char* p);
 
 /// "RRRP": the protocol's name, or the code in decimal when it has none. Returns 1.
-unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os);
 /// 1.
-unsigned lengthRoutingProtocol(const unsigned char* p);
+ORVANE_API unsigned lengthRoutingProtocol(const unsigned char* p);
 
 /// "VLAFP": "(" address family "," protocol ")", each a name or the code in decimal.
 /// Returns 2.
-unsigned formatAfProto(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatAfProto(const unsigned char* p, std::ostream& os);
 /// 2.
-unsigned lengthAfProto(const unsigned char* p);
+ORVANE_API unsigned lengthAfProto(const unsigned char* p);
 
 /// "VLAFPV": "(" address family "," protocol "," u32 vrfId ")". Returns 2 + the u32
 /// count.
-unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os);
 /// 2 + lengthU32.
-unsigned lengthAfProtoVrfId(const unsigned char* p);
+ORVANE_API unsigned lengthAfProtoVrfId(const unsigned char* p);
 
 /// "PGKR": "vrf:" u16 ", ipAddr:" generic prefix. Returns the two counts added.
-unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os);
 /// lengthU16 + 18.
-unsigned lengthIpGenUcastKeyRef(const unsigned char* p);
+ORVANE_API unsigned lengthIpGenUcastKeyRef(const unsigned char* p);
 
 /// "PGKRO": as "PGKR" with an Optimized prefix.
-unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os);
 /// lengthU16 + the Optimized prefix size (wraps to 1 for an unknown prefix tag).
-unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p);
 
 } // namespace Orvane

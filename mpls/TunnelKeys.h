@@ -5,36 +5,38 @@
 // are the host's, measured by the host's length functions at their running offsets.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
 
 /// "TK": "src:" IPv4 ", dst:" IPv4 ", vrf:" u32 ", genId:" u64, read at the fixed
 /// offsets 0, 4, 8 and 12. Returns 20 whatever the bytes hold.
-unsigned formatTunnelKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatTunnelKey(const unsigned char* p, std::ostream& os);
 /// 20.
-unsigned lengthTunnelKey(const unsigned char* p);
+ORVANE_API unsigned lengthTunnelKey(const unsigned char* p);
 
 /// "TKG": as "TK" over two generic addresses, a u32 vrf and a u64 genId, each read at the
 /// running offset. Returns the four fields' counts added.
-unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os);
 /// 42 + lengthU32 + lengthU64.
-unsigned lengthTunnelKeyGen(const unsigned char* p);
+ORVANE_API unsigned lengthTunnelKeyGen(const unsigned char* p);
 
 /// "TKGO": as "TKG" with Opt addresses; the second address starts where the first ends.
-unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os);
 /// Both Opt address sizes + lengthU32 + lengthU64.
-unsigned lengthTunnelKeyGenOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthTunnelKeyGenOptimized(const unsigned char* p);
 
 /// "PW": u32 number "/" host string "/" generic address, with no blanks. An unknown
 /// address tag prints "unknown" and still consumes 21 bytes. Returns the counts added.
-unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthString + 21.
-unsigned lengthPseudowireKey(const unsigned char* p);
+ORVANE_API unsigned lengthPseudowireKey(const unsigned char* p);
 
 /// "PWO": as "PW" with an Opt address.
-unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthString + the Opt address size.
-unsigned lengthPseudowireKeyOptimized(const unsigned char* p);
+ORVANE_API unsigned lengthPseudowireKeyOptimized(const unsigned char* p);
 
 } // namespace Orvane

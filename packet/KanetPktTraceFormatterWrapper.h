@@ -14,12 +14,14 @@
 // the life of the process.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <string>
 
 namespace Orvane {
 
 /// Holds the packet library and its decoder for the life of the plug-in.
-class KanetPktTraceFormatterWrapper {
+class ORVANE_API KanetPktTraceFormatterWrapper {
 public:
   /// The decoder: renders a packet as text, possibly over several lines. Takes the
   /// VLAN tag's TPID and TCI, the VLAN-present flag byte, the packet bytes and their
@@ -46,6 +48,6 @@ private:
 
 /// The one packet printer, built second in the plug-in's load-time order
 /// (KaMessageFormatter.cpp).
-extern KanetPktTraceFormatterWrapper kanetPktTraceFormatterWrapper;
+ORVANE_API extern KanetPktTraceFormatterWrapper kanetPktTraceFormatterWrapper;
 
 } // namespace Orvane

@@ -5,6 +5,8 @@
 // string holding the packet: count byte n at offset 7 and the n bytes from offset 8.
 #pragma once
 
+#include "registry/Export.h"
+
 #include <ostream>
 
 namespace Orvane {
@@ -14,8 +16,8 @@ namespace Orvane {
 /// " vlan " id, " p " priority when TCI > 0x1FFF, " CFI" when bit 12 is set, ") ", then
 /// every byte as two lowercase hex digits, e.g. (tpid 0x8100 vlan 100 p 1 CFI) 4500.
 /// The hex dump leaves the stream in decimal with fill '0'. Returns n + 8.
-unsigned formatKanetPkt(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatKanetPkt(const unsigned char* p, std::ostream& os);
 /// 7 + lengthString at offset 7.
-unsigned lengthKanetPkt(const unsigned char* p);
+ORVANE_API unsigned lengthKanetPkt(const unsigned char* p);
 
 } // namespace Orvane

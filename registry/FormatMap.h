@@ -1,6 +1,7 @@
 // The plug-in's identifier table and its registration with the host.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/Formatter.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace Orvane {
 
 /// Every type id the plug-in supplies, with its (format, length) pair. Built once at
 /// load time from a constant list and never changed afterwards.
-extern std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap;
+ORVANE_API extern std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap;
 
 } // namespace Orvane
 

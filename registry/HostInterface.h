@@ -2,6 +2,7 @@
 // plug-in links against it and never defines them itself.
 #pragma once
 
+#include "registry/Export.h"
 #include "registry/Formatter.h"
 
 #include <ostream>
@@ -10,7 +11,7 @@
 namespace Orvane {
 
 /// The host's registry of formatters by type id.
-class MessageFormatter {
+class ORVANE_API MessageFormatter {
 public:
   /// Records the format function for `id`. A duplicate id keeps its first registration.
   static void addNewFormattersById(std::string id,
@@ -24,27 +25,27 @@ public:
 
 /// Unsigned 8-bit, inserted as a number with `os << value` (follows the stream's base,
 /// width and fill). 1 byte.
-unsigned formatU8(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatU8(const unsigned char* p, std::ostream& os);
 /// Unsigned 16-bit, native order, inserted with `os << value`. 2 bytes.
-unsigned formatU16(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatU16(const unsigned char* p, std::ostream& os);
 /// Unsigned 16-bit in hexadecimal; the stream is set back to decimal. 2 bytes.
-unsigned formatU16Hex(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatU16Hex(const unsigned char* p, std::ostream& os);
 /// Unsigned 32-bit, native order, inserted with `os << value`. 4 bytes.
-unsigned formatU32(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatU32(const unsigned char* p, std::ostream& os);
 /// Unsigned 32-bit in hexadecimal; the stream is set back to decimal. 4 bytes.
-unsigned formatU32Hex(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatU32Hex(const unsigned char* p, std::ostream& os);
 /// Unsigned 64-bit, native order, inserted with `os << value`. 8 bytes.
-unsigned formatU64(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatU64(const unsigned char* p, std::ostream& os);
 /// "True" when the byte is non-zero, else "False". 1 byte.
-unsigned formatBool(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatBool(const unsigned char* p, std::ostream& os);
 /// A host string: one count byte n, then n bytes written as they are. 1 + n bytes.
-unsigned formatString(const unsigned char* p, std::ostream& os);
+ORVANE_API unsigned formatString(const unsigned char* p, std::ostream& os);
 
-unsigned lengthU8(const unsigned char* p);     ///< 1
-unsigned lengthU16(const unsigned char* p);    ///< 2
-unsigned lengthU32(const unsigned char* p);    ///< 4
-unsigned lengthU64(const unsigned char* p);    ///< 8
-unsigned lengthBool(const unsigned char* p);   ///< 1
-unsigned lengthString(const unsigned char* p); ///< 1 + the count byte
+ORVANE_API unsigned lengthU8(const unsigned char* p);     ///< 1
+ORVANE_API unsigned lengthU16(const unsigned char* p);    ///< 2
+ORVANE_API unsigned lengthU32(const unsigned char* p);    ///< 4
+ORVANE_API unsigned lengthU64(const unsigned char* p);    ///< 8
+ORVANE_API unsigned lengthBool(const unsigned char* p);   ///< 1
+ORVANE_API unsigned lengthString(const unsigned char* p); ///< 1 + the count byte
 
 } // namespace Orvane

@@ -17,4 +17,19 @@ struct RunResult {
 RunResult runOvfmt(const std::vector<std::string>& args, const std::string& input = "",
                    const std::vector<std::string>& environment = {});
 
+/// One run of ovfmt and what it must give.
+struct CliCase {
+  std::vector<std::string> args;
+  std::string input;
+  std::string out;
+  std::string errContains; ///< empty: stderr must be empty
+  int status;
+  std::vector<std::string> env = {}; ///< added to the environment
+};
+
+/// Runs every case, expecting its output, error text and status. Whatever the case,
+/// stderr must be printable lines of less than 200 characters (a quoted id or value is
+/// cut short).
+void expectRuns(const std::vector<CliCase>& cases);
+
 } // namespace Orvane::test

@@ -49,6 +49,17 @@ TEST(Decoder, EachValueSeesANewStreamsState) {
   }
 }
 
+TEST(RecordWalker, EachArgumentSeesANewStreamsState) {
+  const auto hex = leaving([](std::ostream& os) { os << std::hex << std::setw(8); });
+  const ovfmt::ArgumentType types[] = {{"hex", &hex}, {"probe", &kProbe}};
+  ovfmt::RecordWalker walker;
+  walker.load(std::vector<unsigned char>{0, 0});
+  const auto arguments = walker.walk(types);
+  ASSERT_EQ(arguments.size(), 2u);
+  EXPECT_EQ(arguments[1].offset, 1u);
+  EXPECT_EQ(arguments[1].text, "255|0.333333|x");
+}
+
 // After a longer value, the bytes around the next are zero again and the text and
 // counts are the next value's alone.
 TEST(Decoder, NextValueSeesNothingOfTheLastOne) {

@@ -1,14 +1,21 @@
 #include "tools/ovfmt/BatchLine.h"
 
 namespace Orvane::ovfmt {
+namespace {
+
+// Plain tests rather than find_first_of(" \t\r"), which searches the set once per
+// character: this runs for every line of a trace.
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+
+} // namespace
 
 std::optional<BatchLine> splitBatchLine(std::string_view line) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const auto start = line.find_first_not_of(kBlanks);
-  if (start == std::string_view::npos || line[start] == '#') return std::nullopt;
-  const auto idEnd = line.find_first_of(kBlanks, start);
-  BatchLine parts{line.substr(start, idEnd == std::string_view::npos ? idEnd : idEnd - start),
-                  idEnd == std::string_view::npos ? std::string_view() : line.substr(idEnd)};
+  std::size_t start = 0;
+  while (start < line.size() && isBlank(line[start])) ++start;
+  if (start == line.size() || line[start] == '#') return std::nullopt;
+  std::size_t idEnd = start;
+  while (idEnd < line.size() && !isBlank(line[idEnd])) ++idEnd;
+  BatchLine parts{line.substr(start, idEnd - start), line.substr(idEnd)};
   if (!parts.hex.empty() && parts.hex.back() == '\r') parts.hex.remove_suffix(1);
   return parts;
 }

@@ -2,17 +2,13 @@
 #pragma once
 
 #include "host/Registry.h"
+#include "tools/ovfmt/GuardedBuffer.h"
+#include "tools/ovfmt/Record.h"
 
-#include <sstream>
 #include <string>
 #include <vector>
 
 namespace Orvane::ovfmt {
-
-/// Zero bytes placed before and after a value, so that a corrupt or short value read
-/// as its layout says stays inside the buffer.
-inline constexpr std::size_t kGuardBefore = 64;
-inline constexpr std::size_t kGuardAfter = 8192;
 
 /// What formatting one value produced.
 struct Decoded {
@@ -21,11 +17,10 @@ struct Decoded {
   std::string text;      ///< what the format function printed
 };
 
-/// Formats values one after another in one guarded buffer and one stream. The buffer
-/// is zero-filled once and only each value's own bytes are zeroed again after it; the
-/// stream is emptied and put back in a new stream's state (base, fill, width, precision)
-/// before each value. A new buffer and stream per value would allocate, clear the guards
-/// and set up a locale every time.
+/// Formats values one after another as records of one argument: in one guarded buffer,
+/// zero outside the value, and on one stream put back in a new stream's state (base,
+/// fill, width, precision) before each value. A new buffer and stream per value would
+/// allocate, clear the guards and set up a locale every time.
 class Decoder {
 public:
   /// Copies `bytes` into the buffer between the guards, asks the length function, then
@@ -33,8 +28,7 @@ public:
   Decoded decode(const host::FormatterPair& formatter, const std::vector<unsigned char>& bytes);
 
 private:
-  std::vector<unsigned char> buffer_; ///< all zero between calls
-  std::ostringstream stream_;
+  RecordWalker walker_;
 };
 
 /// Decoder::decode() on a decoder of its own, for a single value.

@@ -1,6 +1,7 @@
 // Parsing the HEX arguments of ovfmt.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,8 +9,17 @@
 
 namespace Orvane::ovfmt {
 
-/// Parses pairs of hex digits; blanks and ':' may stand between pairs (not inside one).
-/// On failure returns nullopt and sets `error` to what is wrong and where.
+/// The most bytes `text` can hold: one per two characters.
+inline std::size_t maxHexBytes(std::string_view text) { return text.size() / 2; }
+
+/// Parses pairs of hex digits into `out`, which must have room for maxHexBytes(text);
+/// blanks and ':' may stand between pairs (not inside one). Sets `written` to the bytes
+/// stored, also on failure. On failure returns false and sets `error` to what is wrong
+/// and where.
+bool parseHexInto(std::string_view text, unsigned char* out, std::size_t& written,
+                  std::string& error);
+
+/// parseHexInto() into a vector of its own; nullopt on failure.
 std::optional<std::vector<unsigned char>> parseHex(std::string_view text, std::string& error);
 
 } // namespace Orvane::ovfmt

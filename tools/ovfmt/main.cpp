@@ -1,17 +1,19 @@
-// ovfmt: the command-line host. Loads formatter plug-ins and decodes values given as
-// "ID HEX..." on the command line or, with --batch, one per line of a file.
+// ovfmt: the command-line host. Loads formatter plug-ins and decodes records given as
+// "ID[,ID...] HEX..." on the command line or, with --batch, one per line of a file.
+#include "host/BaseTypes.h"
 #include "host/PluginLoader.h"
 #include "host/Registry.h"
-#include "registry/HexDigits.h"
-#include "tools/ovfmt/BatchLine.h"
-#include "tools/ovfmt/Decode.h"
-#include "tools/ovfmt/Hex.h"
+#include "tools/ovfmt/Batch.h"
+#include "tools/ovfmt/IdList.h"
+#include "tools/ovfmt/Problems.h"
+#include "tools/ovfmt/RecordPrinter.h"
 
+#include <charconv>
 #include <climits>
 #include <cstdlib>
-#include <fstream>
+#include <cstring>
+#include <fcntl.h>
 #include <iostream>
-#include <sstream>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -21,132 +23,49 @@ namespace {
 using namespace Orvane;
 
 constexpr int kExitOk = 0, kExitValueFailed = 1, kExitUsage = 2;
+constexpr unsigned kMaxJobs = 256;
 
 const char kUsage[] =
-    "usage: ovfmt [--plugin PATH]... [--counts] ID HEX...\n"
-    "       ovfmt [--plugin PATH]... [--counts] --batch [FILE|-]\n"
-    "       ovfmt [--plugin PATH]... --list\n"
+    "Usage: ovfmt [--plugin PATH]... [--counts | --sep TEXT | --template TEXT] ID[,ID...] HEX...\n"
+    "  or:  ovfmt [--plugin PATH]... [--counts | --sep TEXT | --template TEXT] [--jobs N]\n"
+    "             --batch [FILE|-]\n"
+    "  or:  ovfmt [--plugin PATH]... --list\n"
     "\n"
     "Formats binary trace values through the registered formatter plug-ins.\n"
-    "  ID HEX...      format one value: its type id, then its bytes as pairs of hex digits\n"
-    "                 (blanks and ':' may separate the pairs)\n"
-    "  --batch FILE   format one value per line 'ID HEX...' of FILE, or of standard input\n"
-    "                 when FILE is '-' or absent; blank lines and '#' comments are skipped\n"
-    "  --counts       print 'ID<TAB>length<TAB>consumed<TAB>text' for every value,\n"
-    "                 also invalid or incomplete ones\n"
-    "  --list         print every registered id, sorted\n"
-    "  --plugin PATH  load this plug-in (a .so, or a directory of them) instead of the\n"
-    "                 default: every .so in $OVFMT_PLUGIN_DIR, else the one installed\n"
-    "                 beside ovfmt\n"
-    "Exit status: 0 every value printed, 1 a value failed, 2 usage or plug-in error.\n";
+    "  ID HEX...        format one value: its type id, then its bytes as pairs of hex digits\n"
+    "                   (blanks and ':' may separate the pairs)\n"
+    "  ID,ID,... HEX... format a record: consecutive arguments, each starting where the one\n"
+    "                   before ends; their texts are printed on one line\n"
+    "  --batch FILE     format one record per line 'ID[,ID...] HEX...' of FILE, or of standard\n"
+    "                   input when FILE is '-' or absent; blank lines and '#' comments are\n"
+    "                   skipped\n"
+    "  --sep TEXT       put TEXT between the texts of a record's arguments (default: a blank)\n"
+    "  --template TEXT  print TEXT with each '{}' replaced by the next argument's text; '{{'\n"
+    "                   and '}}' print a brace; the '{}' must match the arguments one for one\n"
+    "  --counts         print 'ID<TAB>length<TAB>consumed<TAB>text' for every argument,\n"
+    "                   also invalid or incomplete ones (a record stops after the first\n"
+    "                   argument that is invalid or runs past the bytes)\n"
+    "  --jobs N         format a batch on N threads (default 1); the output is the same\n"
+    "  --list           print every plug-in id, sorted, then a blank line and the host's\n"
+    "                   base-type ids (u8 u16 u32 u64 x16 x32 bool str)\n"
+    "  --plugin PATH    load this plug-in (a .so, or a directory of them) instead of the\n"
+    "                   default: every .so in $OVFMT_PLUGIN_DIR, else the one installed\n"
+    "                   beside ovfmt\n"
+    "  --help           print this help and exit\n"
+    "  --version        print the version and exit\n"
+    "Exit status: 0 every record printed, 1 a record failed, 2 usage or plug-in error.\n";
 
 struct Options {
   std::vector<std::string> plugins;
-  bool counts = false;
   bool list = false;
   bool batch = false;
   std::string batchFile = "-";
-  std::vector<std::string> value; // ID then HEX words
+  unsigned jobs = 1;
+  bool separatorGiven = false;
+  std::optional<std::string> layout; // the --template text
+  ovfmt::PrintOptions print;
+  std::vector<std::string> record; // ID[,ID...] then HEX words
 };
-
-// Ids and hex come from untrusted input: keep error lines short and printable.
-std::string printable(std::string_view text) {
-  constexpr std::size_t kMax = 40;
-  std::string out;
-  for (unsigned char c : text.substr(0, kMax)) {
-    if (c >= 0x20 && c < 0x7f) {
-      out += static_cast<char>(c);
-    } else {
-      char digits[2];
-      writeHexByte(c, digits);
-      out += "\\x";
-      out.append(digits, 2);
-    }
-  }
-  if (text.size() > kMax) out += "...";
-  return out;
-}
-
-std::string bytesWord(std::size_t n) { return std::to_string(n) + (n == 1 ? " byte" : " bytes"); }
-
-// Where a value came from, put into words only when a message names it (most values
-// need no message, so no text is built for them).
-struct Where {
-  std::string_view source; ///< the batch input's name, or the id given on the command line
-  std::size_t line = 0;    ///< the batch line, 0 for a value on the command line
-};
-
-std::ostream& operator<<(std::ostream& os, const Where& where) {
-  os << where.source;
-  if (where.line) os << ':' << where.line;
-  return os;
-}
-
-// Formats one value and prints it; returns false when the value failed.
-bool formatOne(const Where& where, std::string_view id, std::string_view hex,
-               bool counts, ovfmt::Decoder& decoder) {
-  auto fail = [&](const std::string& problem) {
-    std::cerr << "ovfmt: " << where << ": " << problem << "\n";
-    return false;
-  };
-  const host::FormatterPair* formatter = host::findFormatter(id);
-  if (!formatter) return fail("unknown id \"" + printable(id) + "\" (ovfmt --list shows the ids)");
-  if (!formatter->format || !formatter->length)
-    return fail("id \"" + printable(id) + "\" has no " +
-                (formatter->format ? "length" : "format") + " function registered");
-  std::string hexError;
-  auto bytes = ovfmt::parseHex(hex, hexError);
-  if (!bytes) return fail(hexError);
-
-  const ovfmt::Decoded decoded = decoder.decode(*formatter, *bytes);
-  const std::size_t given = bytes->size();
-  if (counts) {
-    std::cout << id << '\t' << decoded.length << '\t' << decoded.consumed << '\t' << decoded.text
-              << '\n';
-  } else if (decoded.length == kInvalidLength) {
-    return fail("invalid encoding: the length function of " + std::string(id) +
-                " returned 0xFFFFFFFF");
-  } else if (decoded.length > given) {
-    return fail("value too short: " + bytesWord(given) + " given, " + std::string(id) +
-                " needs " + std::to_string(decoded.length));
-  } else if (decoded.consumed != decoded.length) {
-    return fail("invalid encoding: formatting consumed " + std::to_string(decoded.consumed) +
-                " bytes, the length function says " + std::to_string(decoded.length));
-  } else {
-    std::cout << decoded.text << '\n';
-  }
-  if (decoded.length < given && decoded.length != kInvalidLength)
-    std::cerr << "ovfmt: " << where << ": " << bytesWord(given - decoded.length)
-              << " after the value not consumed\n";
-  return true;
-}
-
-int formatBatch(const Options& options) {
-  std::ifstream file;
-  const bool fromStdin = options.batchFile == "-";
-  if (!fromStdin) {
-    file.open(options.batchFile);
-    if (!file) {
-      std::cerr << "ovfmt: cannot open " << options.batchFile << "\n";
-      return kExitUsage;
-    }
-  }
-  std::istream& in = fromStdin ? std::cin : file;
-  const std::string name = fromStdin ? "<stdin>" : options.batchFile;
-
-  bool allPrinted = true;
-  std::size_t values = 0, lineNumber = 0;
-  ovfmt::Decoder decoder;
-  for (std::string line; std::getline(in, line);) {
-    ++lineNumber;
-    const auto parts = ovfmt::splitBatchLine(line);
-    if (!parts) continue;
-    ++values;
-    allPrinted &= formatOne({name, lineNumber}, parts->id, parts->hex, options.counts, decoder);
-  }
-  if (values == 0) std::cerr << "ovfmt: " << name << ": no values to format\n";
-  return allPrinted ? kExitOk : kExitValueFailed;
-}
 
 std::string defaultPlugin() {
   char self[PATH_MAX];
@@ -174,40 +93,139 @@ bool loadPlugins(const Options& options) {
   return errors.empty();
 }
 
+int usageError(const std::string& problem) {
+  std::cerr << "ovfmt: " << problem << "\n" << kUsage;
+  return kExitUsage;
+}
+
+bool parseJobs(const char* text, unsigned& jobs) {
+  const char* end = text + std::strlen(text);
+  const auto [rest, error] = std::from_chars(text, end, jobs);
+  return error == std::errc() && rest == end && jobs >= 1 && jobs <= kMaxJobs;
+}
+
+// Checks the options that only make sense together; returns a usage problem or "".
+std::string conflicts(const Options& options) {
+  const int modes = options.list + options.batch + !options.record.empty();
+  if (modes == 0) return "nothing to do: give ID HEX..., --batch or --list";
+  if (modes > 1) return "give only one of ID HEX..., --batch and --list";
+  if (options.separatorGiven && options.layout)
+    return "give --sep or --template, not both: the template holds the text between arguments";
+  if (options.print.counts && (options.separatorGiven || options.layout))
+    return "--counts prints a line per argument: --sep and --template do not apply";
+  if (options.jobs != 1 && !options.batch) return "--jobs applies to --batch only";
+  return "";
+}
+
+// Parses the template, and checks it against the record of the command line.
+std::string prepareTemplate(Options& options) {
+  if (!options.layout) return "";
+  std::string error;
+  options.print.layout = ovfmt::Template::parse(*options.layout, error);
+  if (!options.print.layout) return error;
+  if (options.record.empty()) return "";
+  std::vector<std::string_view> ids;
+  ovfmt::splitIdList(options.record.front(), ids);
+  if (options.print.layout->placeholders() == ids.size()) return "";
+  return ovfmt::placeholderCountProblem(options.print.layout->placeholders(), ids.size());
+}
+
 // Returns the exit status to stop with, or -1 to go on.
 int parse(int argc, char** argv, Options& options) {
-  auto usageError = [](const std::string& problem) {
-    std::cerr << "ovfmt: " << problem << "\n" << kUsage;
-    return kExitUsage;
-  };
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
-    if (!options.value.empty()) {
-      options.value.push_back(arg);
+    auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
+    if (!options.record.empty()) {
+      options.record.push_back(arg);
     } else if (arg == "--help" || arg == "-h") {
       std::cout << kUsage;
       return kExitOk;
+    } else if (arg == "--version") {
+      std::cout << "ovfmt " ORVANE_VERSION "\n";
+      return kExitOk;
     } else if (arg == "--plugin") {
-      if (++i == argc) return usageError("--plugin needs a path");
-      options.plugins.push_back(argv[i]);
+      const char* path = value();
+      if (!path) return usageError("--plugin needs a path");
+      options.plugins.push_back(path);
     } else if (arg == "--counts") {
-      options.counts = true;
+      options.print.counts = true;
     } else if (arg == "--list") {
       options.list = true;
+    } else if (arg == "--sep") {
+      const char* text = value();
+      if (!text) return usageError("--sep needs a text");
+      options.print.separator = text;
+      options.separatorGiven = true;
+    } else if (arg == "--template") {
+      const char* text = value();
+      if (!text) return usageError("--template needs a text");
+      options.layout = text;
+    } else if (arg == "--jobs") {
+      const char* count = value();
+      if (!count || !parseJobs(count, options.jobs))
+        return usageError("--jobs needs a number from 1 to " + std::to_string(kMaxJobs));
     } else if (arg == "--batch") {
       options.batch = true;
-      if (i + 1 < argc) options.batchFile = argv[++i];
-      if (i + 1 < argc) return usageError("--batch takes one FILE");
+      // The file is optional: the next word is it unless it is another option.
+      if (i + 1 < argc && (argv[i + 1][0] != '-' || std::strcmp(argv[i + 1], "-") == 0))
+        options.batchFile = argv[++i];
     } else if (arg.size() > 1 && arg[0] == '-') {
-      return usageError("unknown option " + printable(arg));
+      return usageError("unknown option " + ovfmt::printable(arg));
+    } else if (options.batch) {
+      return usageError("--batch takes one FILE");
     } else {
-      options.value.push_back(arg);
+      options.record.push_back(arg);
     }
   }
-  const int modes = options.list + options.batch + !options.value.empty();
-  if (modes == 0) return usageError("nothing to do: give ID HEX..., --batch or --list");
-  if (modes > 1) return usageError("give only one of ID HEX..., --batch and --list");
+  if (std::string problem = conflicts(options); !problem.empty()) return usageError(problem);
+  if (std::string problem = prepareTemplate(options); !problem.empty()) return usageError(problem);
   return -1;
+}
+
+// Plug-in ids first, then, apart after a blank line, the host's base-type ids.
+void listIds() {
+  for (const auto& id : host::registeredIds())
+    if (!host::isBaseTypeId(id)) std::cout << id << "\n";
+  std::cout << "\n";
+  for (const auto id : host::baseTypeIds()) std::cout << id << "\n";
+}
+
+// Reports output that could not be written (a full disk, a closed pipe).
+int writeFailed() {
+  std::cerr << "ovfmt: cannot write the output: " << std::strerror(errno) << "\n";
+  return kExitValueFailed;
+}
+
+int formatRecord(const Options& options) {
+  std::string hex;
+  for (std::size_t i = 1; i < options.record.size(); ++i) hex += options.record[i] + " ";
+  const std::string& ids = options.record.front();
+  const std::string shown = ovfmt::printable(ids);
+  ovfmt::RecordPrinter printer(options.print);
+  ovfmt::Output output;
+  const bool printed = printer.print({shown}, ids, hex, output);
+  if (!output.writeTo(STDOUT_FILENO, STDERR_FILENO)) return writeFailed();
+  return printed ? kExitOk : kExitValueFailed;
+}
+
+int formatBatch(const Options& options) {
+  const bool fromStdin = options.batchFile == "-";
+  const int in = fromStdin ? STDIN_FILENO : open(options.batchFile.c_str(), O_RDONLY | O_CLOEXEC);
+  if (in < 0) {
+    std::cerr << "ovfmt: cannot open " << options.batchFile << "\n";
+    return kExitUsage;
+  }
+  const std::string name = fromStdin ? "<stdin>" : options.batchFile;
+  const auto summary =
+      ovfmt::formatBatch(in, name, options.print, options.jobs, STDOUT_FILENO, STDERR_FILENO);
+  if (!fromStdin) close(in);
+  if (summary.writeFailed) return writeFailed();
+  if (!summary.readError.empty()) {
+    std::cerr << "ovfmt: cannot read " << name << ": " << summary.readError << "\n";
+    return kExitUsage;
+  }
+  if (summary.records == 0) std::cerr << "ovfmt: " << name << ": no values to format\n";
+  return summary.allPrinted ? kExitOk : kExitValueFailed;
 }
 
 } // namespace
@@ -216,17 +234,11 @@ int main(int argc, char** argv) {
   Options options;
   if (int status = parse(argc, argv, options); status >= 0) return status;
   if (!loadPlugins(options)) return kExitUsage;
+  host::registerBaseTypes();
 
   if (options.list) {
-    for (const auto& id : host::registeredIds()) std::cout << id << "\n";
+    listIds();
     return kExitOk;
   }
-  if (options.batch) return formatBatch(options);
-
-  std::string hex;
-  for (std::size_t i = 1; i < options.value.size(); ++i) hex += options.value[i] + " ";
-  const std::string& id = options.value.front();
-  ovfmt::Decoder decoder;
-  const std::string shownId = printable(id);
-  return formatOne({shownId}, id, hex, options.counts, decoder) ? kExitOk : kExitValueFailed;
+  return options.batch ? formatBatch(options) : formatRecord(options);
 }

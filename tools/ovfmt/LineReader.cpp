@@ -1,0 +1,44 @@
+#include "tools/ovfmt/LineReader.h"
+
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+namespace Orvane::ovfmt {
+
+LineReader::LineReader(int fd, std::size_t blockSize) : fd_(fd), block_(blockSize) {}
+
+bool LineReader::next(std::vector<std::string_view>& lines) {
+  lines.clear();
+  if (atEnd_) return false;
+  // Keep the incomplete line at the front; a line that fills the block doubles it.
+  std::memmove(block_.data(), block_.data() + begin_, end_ - begin_);
+  end_ -= begin_;
+  begin_ = 0;
+  if (end_ == block_.size()) block_.resize(2 * block_.size());
+
+  ssize_t n;
+  do n = ::read(fd_, block_.data() + end_, block_.size() - end_);
+  while (n < 0 && errno == EINTR);
+  if (n < 0) {
+    error_ = std::strerror(errno);
+    atEnd_ = true;
+    return false;
+  }
+  atEnd_ = n == 0;
+  end_ += static_cast<std::size_t>(n);
+
+  const char* data = block_.data();
+  while (const void* newline = std::memchr(data + begin_, '\n', end_ - begin_)) {
+    const auto at = static_cast<std::size_t>(static_cast<const char*>(newline) - data);
+    lines.emplace_back(data + begin_, at - begin_);
+    begin_ = at + 1;
+  }
+  if (atEnd_ && begin_ < end_) {
+    lines.emplace_back(data + begin_, end_ - begin_);
+    begin_ = end_;
+  }
+  return !lines.empty() || !atEnd_;
+}
+
+} // namespace Orvane::ovfmt

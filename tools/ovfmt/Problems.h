@@ -1,0 +1,46 @@
+// The words of every problem a record can have, shared by every front end (ovfmt, and
+// any other that decodes records) so that the same fault reads the same everywhere.
+//
+// A problem of one argument reads "argument K of N (ID): PROBLEM" when the record has
+// more than one argument, and just "PROBLEM" for a single value.
+#pragma once
+
+#include "tools/ovfmt/Record.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Orvane::ovfmt {
+
+/// `text` cut to 40 characters, with bytes outside printable ASCII as "\xNN": ids and
+/// hex come from untrusted input, and error lines must stay short and printable.
+std::string printable(std::string_view text);
+
+/// "argument K of N (ID): " for argument `position` (from 1) of `count`; empty when
+/// `count` is 1.
+std::string argumentPrefix(std::size_t position, std::size_t count, std::string_view id);
+
+/// `unknown id "ID"`.
+std::string unknownIdProblem(std::string_view id);
+
+/// `id "ID" has no length function registered` (or "format", whichever is missing).
+std::string missingFunctionProblem(std::string_view id, const host::FormatterPair& formatter);
+
+/// What `fault` of `argument` means, in a record of `recordSize` bytes. A value too
+/// short says how many bytes were "given" to the first argument and "left" for a later
+/// one.
+std::string faultProblem(const Argument& argument, Fault fault, std::size_t recordSize);
+
+/// The problem of the first argument of a walk with a fault, prefixed as in a record of
+/// `count` arguments over `recordSize` bytes; empty when no argument has one.
+std::string firstFaultProblem(std::span<const Argument> arguments, std::size_t count,
+                              std::size_t recordSize);
+
+/// `N bytes after the value not consumed`.
+std::string leftoverProblem(std::size_t bytes);
+
+/// Why an argument got no text: the walk stopped at argument `stoppedAt` (from 1).
+std::string notReachedProblem(std::size_t stoppedAt);
+
+} // namespace Orvane::ovfmt

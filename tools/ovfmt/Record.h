@@ -1,0 +1,89 @@
+// Walking a trace record: consecutive arguments, each formatted where the length
+// function of the one before says it ends, the way a host decodes a record.
+#pragma once
+
+#include "host/Registry.h"
+#include "tools/ovfmt/GuardedBuffer.h"
+#include "tools/ovfmt/TextStream.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Orvane::ovfmt {
+
+/// An argument's type id and the functions registered for it (both set).
+struct ArgumentType {
+  std::string_view id;
+  const host::FormatterPair* formatter = nullptr;
+};
+
+/// What formatting one argument of a record produced.
+struct Argument {
+  std::string_view id;
+  std::size_t offset = 0; ///< where the argument starts in the record
+  unsigned length = 0;    ///< the length function's result
+  unsigned consumed = 0;  ///< the format function's result
+  std::string_view text;  ///< what the format function printed
+};
+
+/// What is wrong with an argument, if anything, in the order a walk checks it.
+enum class Fault {
+  None,
+  InvalidLength,   ///< the length function returned kInvalidLength
+  PastEnd,         ///< the length exceeds the bytes left in the record
+  ConsumedDiffers, ///< the format function consumed other than the length
+};
+
+/// The first fault of `argument` in a record of `recordSize` bytes.
+inline Fault faultOf(const Argument& argument, std::size_t recordSize) {
+  if (argument.length == kInvalidLength) return Fault::InvalidLength;
+  if (argument.length > recordSize - argument.offset) return Fault::PastEnd;
+  if (argument.consumed != argument.length) return Fault::ConsumedDiffers;
+  return Fault::None;
+}
+
+/// Decodes records one after another in one guarded buffer and one TextStream. The
+/// record's bytes are placed between the guards once and every argument is read in
+/// place at its running offset, so a corrupt argument's reads land in the record or in
+/// the zero guard, never outside the buffer. Each argument is formatted on the stream in
+/// a new stream's state. One walker serves one thread.
+class RecordWalker {
+public:
+  /// Places `bytes` as the record, replacing the one before.
+  void load(std::span<const unsigned char> bytes);
+  /// Parses `hex` straight into the buffer as the record. On bad hex returns false,
+  /// sets `error` (see parseHexInto) and leaves an empty record.
+  bool loadHex(std::string_view hex, std::string& error);
+  /// Bytes in the current record.
+  std::size_t size() const { return buffer_.size(); }
+
+  /// Formats `types` in order over the record placed by load() or loadHex(). The walk
+  /// stops after an argument whose length is invalid or runs past the bytes left, so it
+  /// may return fewer arguments than `types`. The result and its texts stay valid until
+  /// the next walk or load.
+  std::span<const Argument> walk(std::span<const ArgumentType> types) {
+    return walk(types, {buffer_.data(), buffer_.size()});
+  }
+  /// walk() over the caller's `record` in place, without guards: every byte the
+  /// arguments' functions read must be inside it (as when each argument fits).
+  std::span<const Argument> walk(std::span<const ArgumentType> types,
+                                 std::span<const unsigned char> record);
+
+  /// Whether the last walk formatted every type and none invalid or past the end.
+  bool finished() const { return finished_; }
+  /// Bytes after the last argument of a finished walk.
+  std::size_t leftover() const { return size_ - end_; }
+
+private:
+  GuardedBuffer buffer_;
+  TextStream text_;
+  std::vector<Argument> arguments_;
+  std::vector<std::size_t> textEnds_; ///< where each argument's text ends in text_
+  std::size_t size_ = 0; ///< bytes in the record of the last walk
+  std::size_t end_ = 0;  ///< where the last argument of the last walk ended
+  bool finished_ = false;
+};
+
+} // namespace Orvane::ovfmt

@@ -1,0 +1,54 @@
+#include "tools/ovfmt/TextStream.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace Orvane::ovfmt {
+
+TextStream::Buffer::Buffer() : chars_(256) { reset(); }
+
+void TextStream::Buffer::advanceFar(std::size_t count) {
+  // pbump() takes an int: a text past 2 GiB is advanced in steps.
+  while (count > 0) {
+    const auto step = static_cast<int>(std::min<std::size_t>(count, INT_MAX));
+    pbump(step);
+    count -= static_cast<std::size_t>(step);
+  }
+}
+
+void TextStream::Buffer::grow(std::size_t count) {
+  const std::size_t used = size();
+  chars_.resize(std::max(2 * chars_.size(), used + count));
+  setp(chars_.data(), chars_.data() + chars_.size());
+  advance(used);
+}
+
+TextStream::Buffer::int_type TextStream::Buffer::overflow(int_type c) {
+  if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
+  grow(1);
+  *pptr() = traits_type::to_char_type(c);
+  pbump(1);
+  return c;
+}
+
+std::streamsize TextStream::Buffer::xsputn(const char* text, std::streamsize count) {
+  if (count <= 0) return 0;
+  const auto n = static_cast<std::size_t>(count);
+  if (n > static_cast<std::size_t>(epptr() - pptr())) grow(n);
+  std::memcpy(pptr(), text, n);
+  advance(n);
+  return count;
+}
+
+TextStream::TextStream() : stream_(&buffer_) {}
+
+std::ostream& TextStream::fresh() {
+  stream_.clear();
+  stream_.flags(std::ios_base::dec | std::ios_base::skipws);
+  stream_.fill(' ');
+  stream_.width(0);
+  stream_.precision(6);
+  return stream_;
+}
+
+} // namespace Orvane::ovfmt
