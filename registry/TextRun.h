@@ -25,11 +25,9 @@
 
 #include "registry/PlainDecimal.h"
 
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 #include <ostream>
 #include <string_view>
 
@@ -74,15 +72,7 @@ public:
   /// Prints `value` as `os << value` would at this point. Its digits join the pending
   /// text when the stream has no width and prints plain decimal digits; otherwise the
   /// pending text is inserted and then the number on its own.
-  TextRun& number(uint64_t value) {
-    if (!hasNoWidth() || !formatsPlainDecimal()) {
-      flush() << value;
-      return *this;
-    }
-    if (kCapacity - size_ < kMaxDecimalDigits) flush();
-    size_ = std::to_chars(text_ + size_, text_ + kCapacity, value).ptr - text_;
-    return *this;
-  }
+  TextRun& number(uint64_t value);
 
   /// Prints `piece` as `os << piece` would at this point: it joins the pending text
   /// when the stream has no width, and is otherwise inserted on its own (padded to the
