@@ -16,10 +16,9 @@ unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigne
                       TextRun& text) {
   unsigned off = start;
   for (const LabeledField& field : layout.fields) {
-    if (!field.kind.format)
-      break;
+    if (!field.kind) break;
     text << field.label;
-    const FieldKind& kind = field.kind;
+    const FieldKind& kind = *field.kind;
     off += kind.append ? kind.append(at(p, off), text) : kind.format(at(p, off), text.flush());
   }
   text << layout.closing;
@@ -29,9 +28,8 @@ unsigned formatLayout(const FieldLayout& layout, const unsigned char* p, unsigne
 unsigned measureLayout(const FieldLayout& layout, const unsigned char* p, unsigned start) {
   unsigned off = start;
   for (const LabeledField& field : layout.fields) {
-    if (!field.kind.length)
-      break;
-    off += field.kind.length(at(p, off));
+    if (!field.kind) break;
+    off += field.kind->length(at(p, off));
   }
   return off;
 }

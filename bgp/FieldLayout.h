@@ -7,7 +7,7 @@
 // advance by the same per-field counts, so the text and the size of a value can never
 // disagree.
 //
-//   constexpr FieldLayout kRouterMac{{{"<ip:", kIp4Field}, {", routerMac:", kMacField}}, ">"};
+//   constexpr FieldLayout kRouterMac{{{"<ip:", &kIp4Field}, {", routerMac:", &kMacField}}, ">"};
 //   formatLayout(kRouterMac, p, 6, os); // <ip:10.0.0.1, routerMac:001c.73aa.bbcc>, returns 16
 #pragma once
 
@@ -33,10 +33,11 @@ struct FieldKind {
   AppendPtr append = nullptr;
 };
 
-/// A field and the literal text printed just before it.
+/// A field and the literal text printed just before it. Layouts point at shared kinds,
+/// so that the loader relocates each function pointer once, not once per field.
 struct LabeledField {
   std::string_view label = "";
-  FieldKind kind;
+  const FieldKind* kind = nullptr;
 };
 
 /// The most fields any layout has.

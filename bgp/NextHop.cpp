@@ -26,33 +26,36 @@ constexpr FieldKind kMplsLabelField{static_cast<FormatPtr>(formatMplsLabel), len
 constexpr FieldKind kSidField{formatSid, lengthSid};
 
 // Fields that several next-hop types share.
-constexpr LabeledField kIp4{"<ip:", kIp4Field}, kIp6{"<ip:", kIp6Field};
-constexpr LabeledField kIpv6{"<ipv6:", kIp6Field};
-constexpr LabeledField kLabel{", label:", kEvpnLabelField};
-constexpr LabeledField kLabel2{", label2:", kEvpnLabelField};
-constexpr LabeledField kL3Label{", l3Label:", kEvpnLabelField};
-constexpr LabeledField kL3Label2{", l3Label2:", kEvpnLabelField};
-constexpr LabeledField kRouterMac{", routerMac:", kMacField};
-constexpr LabeledField kEsi{", esi:", kEsiField};
-constexpr LabeledField kMcastFlags{", mcastFlags:", kU8Field};
-constexpr LabeledField kMaxResponseTime{", maxResponseTime:", kU8Field};
-constexpr LabeledField kRemoteDomain{", remoteDomain:", kBoolField};
-constexpr LabeledField kNdProxyFlag{", ndProxyFlag:", kBoolField};
-constexpr LabeledField kVbs{", vbs:", kU16Field};
-constexpr LabeledField kLabelBase{", labelBase:", kMplsLabelField};
-constexpr LabeledField kL3Sid{", l3Sid:", kSidField};
-constexpr LabeledField kEtreeLeafLabel{", etreeLeafLabel:", kEvpnLabelField};
+constexpr LabeledField kIp4{"<ip:", &kIp4Field}, kIp6{"<ip:", &kIp6Field};
+constexpr LabeledField kIpv6{"<ipv6:", &kIp6Field};
+constexpr LabeledField kLabel{", label:", &kEvpnLabelField};
+constexpr LabeledField kLabel2{", label2:", &kEvpnLabelField};
+constexpr LabeledField kL3Label{", l3Label:", &kEvpnLabelField};
+constexpr LabeledField kL3Label2{", l3Label2:", &kEvpnLabelField};
+constexpr LabeledField kRouterMac{", routerMac:", &kMacField};
+constexpr LabeledField kEsi{", esi:", &kEsiField};
+constexpr LabeledField kMcastFlags{", mcastFlags:", &kU8Field};
+constexpr LabeledField kMaxResponseTime{", maxResponseTime:", &kU8Field};
+constexpr LabeledField kRemoteDomain{", remoteDomain:", &kBoolField};
+constexpr LabeledField kNdProxyFlag{", ndProxyFlag:", &kBoolField};
+constexpr LabeledField kVbs{", vbs:", &kU16Field};
+constexpr LabeledField kLabelBase{", labelBase:", &kMplsLabelField};
+constexpr LabeledField kL3Sid{", l3Sid:", &kSidField};
+constexpr LabeledField kEtreeLeafLabel{", etreeLeafLabel:", &kEvpnLabelField};
 // Layer-2 attributes print their own leading separator.
-constexpr LabeledField kL2AttrsV1{"", {formatEvpnL2AttrsV1, lengthEvpnL2Attrs}};
-constexpr LabeledField kL2AttrsV2{"", {formatEvpnL2AttrsV2, lengthEvpnL2Attrs}};
-constexpr LabeledField kL2AttrsV3{"", {formatEvpnL2AttrsV3, lengthEvpnL2Attrs}};
+constexpr FieldKind kL2AttrsV1Field{formatEvpnL2AttrsV1, lengthEvpnL2Attrs};
+constexpr FieldKind kL2AttrsV2Field{formatEvpnL2AttrsV2, lengthEvpnL2Attrs};
+constexpr FieldKind kL2AttrsV3Field{formatEvpnL2AttrsV3, lengthEvpnL2Attrs};
+constexpr LabeledField kL2AttrsV1{"", &kL2AttrsV1Field};
+constexpr LabeledField kL2AttrsV2{"", &kL2AttrsV2Field};
+constexpr LabeledField kL2AttrsV3{"", &kL2AttrsV3Field};
 
 // The EVPN next hop of type 5, which types 12, 17, 30 and 32 extend.
 constexpr FieldLayout evpnNextHop(LabeledField attrs = {}, LabeledField last = {}) {
   return {{kIp4,
            kLabel,
-           {", singleActive:", kBoolField},
-           {", esiLabel:", kEvpnLabelField},
+           {", singleActive:", &kBoolField},
+           {", esiLabel:", &kEvpnLabelField},
            attrs,
            last},
           ">"};
@@ -63,9 +66,9 @@ constexpr FieldLayout routerMacsNextHop(LabeledField ip) {
   return {{ip,
            kL3Label,
            kRouterMac,
-           {", localL3Label:", kEvpnLabelField},
-           {", localRouterMac:", kMacField},
-           {", localL3Label2:", kEvpnLabelField}},
+           {", localL3Label:", &kEvpnLabelField},
+           {", localRouterMac:", &kMacField},
+           {", localL3Label2:", &kEvpnLabelField}},
           ">"};
 }
 
@@ -74,16 +77,16 @@ constexpr FieldLayout kNullNextHop{{}, "NULL"};
 // Indexed by next-hop type.
 constexpr FieldLayout kNextHopLayouts[] = {
     /* 0 */ kNullNextHop,
-    /* 1 */ {{{"", kIp4Field}}},
-    /* 2 */ {{{"", kIp6Field}}},
+    /* 1 */ {{{"", &kIp4Field}}},
+    /* 2 */ {{{"", &kIp6Field}}},
     /* 3 */ {{kIp4, kRouterMac}, ">"},
     /* 4 */ {{kIp6, kRouterMac}, ">"},
     /* 5 */ evpnNextHop(),
     /* 6 */ {{kIp4, kEsi, kLabel, kLabel2}, ">"},
-    /* 7 */ {{kIpv6, {", label:", kMplsLabelField}}, ">"},
-    /* 8 */ {{kIp4, {", label:", kU32Field}}, ">"},
-    /* 9 */ {{kIpv6, {", label:", kU32Field}}, ">"},
-    /* 10 */ {{{"", kIp6Field}, {"%", kStringField}}},
+    /* 7 */ {{kIpv6, {", label:", &kMplsLabelField}}, ">"},
+    /* 8 */ {{kIp4, {", label:", &kU32Field}}, ">"},
+    /* 9 */ {{kIpv6, {", label:", &kU32Field}}, ">"},
+    /* 10 */ {{{"", &kIp6Field}, {"%", &kStringField}}},
     /* 11 */ {{kIp4, kEsi, kLabel, kLabel2, kNdProxyFlag}, ">"},
     /* 12 */ evpnNextHop(kL2AttrsV1),
     /* 13 */ {{kIp4, kMcastFlags}, ">"},
@@ -92,18 +95,18 @@ constexpr FieldLayout kNextHopLayouts[] = {
     /* 16 */ {{kIp6, kMcastFlags, kMaxResponseTime}, ">"},
     /* 17 */ evpnNextHop(kL2AttrsV2),
     /* 18 */ {{kIp4, kRemoteDomain}, ">"},
-    /* 19 */ {{{"<l3Label:", kEvpnLabelField}, kRouterMac, kL3Label2}, ">"},
+    /* 19 */ {{{"<l3Label:", &kEvpnLabelField}, kRouterMac, kL3Label2}, ">"},
     /* 20 */ routerMacsNextHop(kIp4),
     /* 21 */ routerMacsNextHop(kIp6),
-    /* 22 */ {{{"", kGenAddrField}}},
+    /* 22 */ {{{"", &kGenAddrField}}},
     /* 23 */
-    {{{"<esi:", kEsiField}, kLabel, kL3Label, kLabel2, kL3Label2, kNdProxyFlag}, ">"},
-    /* 24 */ {{{"<label:", kEvpnLabelField}, kLabel2}, ">"},
-    /* 25 */ {{{"<l3Label:", kEvpnLabelField}, kRouterMac, kL3Label2, kL3Sid}, ">"},
+    {{{"<esi:", &kEsiField}, kLabel, kL3Label, kLabel2, kL3Label2, kNdProxyFlag}, ">"},
+    /* 24 */ {{{"<label:", &kEvpnLabelField}, kLabel2}, ">"},
+    /* 25 */ {{{"<l3Label:", &kEvpnLabelField}, kRouterMac, kL3Label2, kL3Sid}, ">"},
     /* 26 */ {{kIpv6, kL3Sid}, ">"},
-    /* 27 */ {{{"<ip:", kGenAddrField}, kVbs, kLabelBase}, ">"},
-    /* 28 */ {{{"", kGenAddrOptField}}},
-    /* 29 */ {{{"<ip:", kGenAddrOptField}, kVbs, kLabelBase}, ">"},
+    /* 27 */ {{{"<ip:", &kGenAddrField}, kVbs, kLabelBase}, ">"},
+    /* 28 */ {{{"", &kGenAddrOptField}}},
+    /* 29 */ {{{"<ip:", &kGenAddrOptField}, kVbs, kLabelBase}, ">"},
     /* 30 */ evpnNextHop(kL2AttrsV2, kEtreeLeafLabel),
     /* 31 */ {{kIp4, kRemoteDomain, kL2AttrsV3}, ">"},
     /* 32 */ evpnNextHop(kL2AttrsV3, kEtreeLeafLabel),

@@ -15,19 +15,19 @@ namespace {
 constexpr unsigned kPeerBodyOffset = 1;
 constexpr unsigned kBmpNameOffset = 3;
 
-constexpr LabeledField kInterfaceName{"%", kStringField};
-constexpr LabeledField kIpv4InParentheses{" (", kIp4Field};
+constexpr LabeledField kInterfaceName{"%", &kStringField};
+constexpr LabeledField kIpv4InParentheses{" (", &kIp4Field};
 
 // Indexed by peer-key type.
 constexpr FieldLayout kPeerKeyLayouts[] = {
     /* 0 */ {},
-    /* 1 */ {{{"", kGenAddrField}, kInterfaceName}},
-    /* 2 */ {{{"", kGenAddrField}}},
-    /* 3 */ {{{"", kStringField}}},
-    /* 4 */ {{{"", kGenAddrField}, kIpv4InParentheses}, ")"},
-    /* 5 */ {{{"", kGenAddrOptField}, kInterfaceName}},
-    /* 6 */ {{{"", kGenAddrOptField}}},
-    /* 7 */ {{{"", kGenAddrOptField}, kIpv4InParentheses}, ")"},
+    /* 1 */ {{{"", &kGenAddrField}, kInterfaceName}},
+    /* 2 */ {{{"", &kGenAddrField}}},
+    /* 3 */ {{{"", &kStringField}}},
+    /* 4 */ {{{"", &kGenAddrField}, kIpv4InParentheses}, ")"},
+    /* 5 */ {{{"", &kGenAddrOptField}, kInterfaceName}},
+    /* 6 */ {{{"", &kGenAddrOptField}}},
+    /* 7 */ {{{"", &kGenAddrOptField}, kIpv4InParentheses}, ")"},
 };
 
 const FieldLayout& peerKeyLayout(const unsigned char* p) {

@@ -58,82 +58,86 @@ constexpr unsigned short kSafiMacSpmsiAd = 0x10A;
 constexpr unsigned short kSafiVplsAd = 0x10C, kSafiVplsVe = 0x10D;
 
 // Unnamed fields are labelled with their kind.
-constexpr LabeledField kU32{", u32:", kU32Field}, kU64{", u64:", kU64Field};
-constexpr LabeledField kBool{", bool:", kBoolField};
+constexpr LabeledField kU32{", u32:", &kU32Field}, kU64{", u64:", &kU64Field};
+constexpr LabeledField kBool{", bool:", &kBoolField};
 
 // ipv4 and ipv6.
-constexpr FieldLayout prefixKey(FieldKind address) { return {{{"ip:", address}, {"/", kU8Field}}}; }
-constexpr FieldLayout vpnPrefixKey(FieldKind address) {
-  return {{{"rd:", kRdField}, {", ip:", address}, {"/", kU8Field}}};
+constexpr FieldLayout prefixKey(const FieldKind& address) {
+  return {{{"ip:", &address}, {"/", &kU8Field}}};
 }
-constexpr FieldLayout srTeKey(FieldKind endpoint) {
-  return {{{"distinguisher:", kU32Field}, {", color:", kU32Field}, {", endpoint:", endpoint}}};
+constexpr FieldLayout vpnPrefixKey(const FieldKind& address) {
+  return {{{"rd:", &kRdField}, {", ip:", &address}, {"/", &kU8Field}}};
 }
-constexpr FieldLayout kFlowspecKey{{{"u64:", kU64Field}}};
-constexpr FieldLayout kFlowspecVpnKey{{{"u64:", kU64Field}, kU64}};
+constexpr FieldLayout srTeKey(const FieldKind& endpoint) {
+  return {{{"distinguisher:", &kU32Field}, {", color:", &kU32Field}, {", endpoint:", &endpoint}}};
+}
+constexpr FieldLayout kFlowspecKey{{{"u64:", &kU64Field}}};
+constexpr FieldLayout kFlowspecVpnKey{{{"u64:", &kU64Field}, kU64}};
 constexpr FieldLayout kRtMembershipKey{
-    {{"origin:", kU32Field}, {", rt:", kRtField}, {"/", kU8Field}}};
+    {{"origin:", &kU32Field}, {", rt:", &kRtField}, {"/", &kU8Field}}};
 constexpr FieldLayout kIpAdSegmentKey{
-    {{"u64:", kU64Field}, {", raw:", kRawField<10>}, kU32, kBool}};
-constexpr FieldLayout kMacArpKey{{{"raw:", kRawField<27>}, kU32, kU32}};
+    {{"u64:", &kU64Field}, {", raw:", &kRawField<10>}, kU32, kBool}};
+constexpr FieldLayout kMacArpKey{{{"raw:", &kRawField<27>}, kU32, kU32}};
 
 // EVPN: the route type names the key, "<EVPN-TypeN-Key: rd:" ... ">". A compact key has
 // the Opt generic addresses where the full one has 21-byte ones, and prints the same.
-constexpr LabeledField kEtid{", etid:", kU32Field}, kEtid2{", etid2:", kU32Field};
-constexpr LabeledField kEsi{", esi:", kEsiField};
+constexpr LabeledField kEtid{", etid:", &kU32Field}, kEtid2{", etid2:", &kU32Field};
+constexpr LabeledField kEsi{", esi:", &kEsiField};
 
 constexpr FieldLayout evpnType1Key() {
-  return {{{"<EVPN-Type1-Key: rd:", kRdField}, kEsi, kEtid}, ">"};
+  return {{{"<EVPN-Type1-Key: rd:", &kRdField}, kEsi, kEtid}, ">"};
 }
-constexpr FieldLayout evpnType2Key(FieldKind ip) {
-  return {{{"<EVPN-Type2-Key: rd:", kRdField}, kEtid, kEtid2, {", mac:", kMacField}, {", ip:", ip}},
+constexpr FieldLayout evpnType2Key(const FieldKind& ip) {
+  return {
+      {{"<EVPN-Type2-Key: rd:", &kRdField}, kEtid, kEtid2, {", mac:", &kMacField}, {", ip:", &ip}},
+      ">"};
+}
+constexpr FieldLayout evpnType3Key(const FieldKind& ip) {
+  return {{{"<EVPN-Type3-Key: rd:", &kRdField}, kEtid, kEtid2, {", ip:", &ip}, {", ip2:", &ip}},
           ">"};
 }
-constexpr FieldLayout evpnType3Key(FieldKind ip) {
-  return {{{"<EVPN-Type3-Key: rd:", kRdField}, kEtid, kEtid2, {", ip:", ip}, {", ip2:", ip}}, ">"};
+constexpr FieldLayout evpnType4Key(const FieldKind& ip) {
+  return {{{"<EVPN-Type4-Key: rd:", &kRdField}, kEsi, {", ip:", &ip}}, ">"};
 }
-constexpr FieldLayout evpnType4Key(FieldKind ip) {
-  return {{{"<EVPN-Type4-Key: rd:", kRdField}, kEsi, {", ip:", ip}}, ">"};
-}
-constexpr FieldLayout evpnType5Key(FieldKind ip) {
-  return {{{"<EVPN-Type5-Key: rd:", kRdField}, kEtid, {", ip:", ip}, {"/", kU8Field}}, ">"};
+constexpr FieldLayout evpnType5Key(const FieldKind& ip) {
+  return {{{"<EVPN-Type5-Key: rd:", &kRdField}, kEtid, {", ip:", &ip}, {"/", &kU8Field}}, ">"};
 }
 // Types 6 and 10.
-constexpr FieldLayout evpnThreeAddressKey(const char* opening, FieldKind ip) {
-  return {{{opening, kRdField}, kU32, {", ip:", ip}, {", ip2:", ip}, {", ip3:", ip}}, ">"};
+constexpr FieldLayout evpnThreeAddressKey(const char* opening, const FieldKind& ip) {
+  return {{{opening, &kRdField}, kU32, {", ip:", &ip}, {", ip2:", &ip}, {", ip3:", &ip}}, ">"};
 }
 // Types 7 and 8.
-constexpr FieldLayout evpnSynchKey(const char* opening, FieldKind ip) {
-  return {{{opening, kRdField},
+constexpr FieldLayout evpnSynchKey(const char* opening, const FieldKind& ip) {
+  return {{{opening, &kRdField},
            kU32,
-           {", raw:", kRawField<10>},
-           {", ip:", ip},
-           {", ip2:", ip},
-           {", ip3:", ip}},
+           {", raw:", &kRawField<10>},
+           {", ip:", &ip},
+           {", ip2:", &ip},
+           {", ip3:", &ip}},
           ">"};
 }
 
 // Link state: "<kind>Rk: proto:" u8, ", id:" u64, then the route type's own fields.
 constexpr FieldLayout linkStateKey(const char* opening, LabeledField rest, LabeledField extra = {},
                                    LabeledField extra2 = {}) {
-  return {{{opening, kU8Field}, {", id:", kU64Field}, rest, extra, extra2}};
+  return {{{opening, &kU8Field}, {", id:", &kU64Field}, rest, extra, extra2}};
 }
 
 // 48bitMac: unnamed fields only. Each private SAFI 0x101..0x104 has a one-byte
 // counterpart (241..244) whose key is the same without its last field.
-constexpr LabeledField kRaw10{", raw:", kRawField<10>}, kRaw31{", raw:", kRawField<31>};
-constexpr LabeledField kRaw63{", raw:", kRawField<63>};
-constexpr FieldLayout kMacSegmentKey{{{"u64:", kU64Field}, kRaw10, kU32, kBool, kBool}};
-constexpr FieldLayout kMacSegmentShortKey{{{"u64:", kU64Field}, kRaw10, kU32}};
-constexpr FieldLayout kMacAddressKey{{{"raw:", kRawField<6>}, kU32, kU32}};
-constexpr FieldLayout kMacAddressShortKey{{{"raw:", kRawField<6>}, kU32}};
-constexpr FieldLayout kMacFloodTargetKey{{{"raw:", kRawField<42>}, kU32, kU32}};
-constexpr FieldLayout kMacFloodTargetShortKey{{{"raw:", kRawField<21>}, kU32}};
-constexpr FieldLayout kMacEthSegmentKey{{{"u64:", kU64Field}, kRaw31, kBool}};
-constexpr FieldLayout kMacEthSegmentShortKey{{{"u64:", kU64Field}, kRaw31}};
-constexpr FieldLayout kMacArpShortKey{{{"raw:", kRawField<27>}, kU32}};
-constexpr FieldLayout kMacMulticastKey{{{"u32:", kU32Field}, kRaw63, kBool}};
-constexpr FieldLayout kMacSynchKey{{{"raw:", kRawField<10>}, kU32, kRaw63}};
+constexpr LabeledField kRaw10{", raw:", &kRawField<10>}, kRaw31{", raw:", &kRawField<31>};
+constexpr LabeledField kRaw63{", raw:", &kRawField<63>};
+constexpr FieldLayout kMacSegmentKey{{{"u64:", &kU64Field}, kRaw10, kU32, kBool, kBool}};
+constexpr FieldLayout kMacSegmentShortKey{{{"u64:", &kU64Field}, kRaw10, kU32}};
+constexpr FieldLayout kMacAddressKey{{{"raw:", &kRawField<6>}, kU32, kU32}};
+constexpr FieldLayout kMacAddressShortKey{{{"raw:", &kRawField<6>}, kU32}};
+constexpr FieldLayout kMacFloodTargetKey{{{"raw:", &kRawField<42>}, kU32, kU32}};
+constexpr FieldLayout kMacFloodTargetShortKey{{{"raw:", &kRawField<21>}, kU32}};
+constexpr FieldLayout kMacEthSegmentKey{{{"u64:", &kU64Field}, kRaw31, kBool}};
+constexpr FieldLayout kMacEthSegmentShortKey{{{"u64:", &kU64Field}, kRaw31}};
+constexpr FieldLayout kMacArpShortKey{{{"raw:", &kRawField<27>}, kU32}};
+constexpr FieldLayout kMacMulticastKey{{{"u32:", &kU32Field}, kRaw63, kBool}};
+constexpr FieldLayout kMacSynchKey{{{"raw:", &kRawField<10>}, kU32, kRaw63}};
 
 // First match wins; kAnySafi rows come last in their AFI. The rows of an AFI are kept
 // together, so that a search looks at its own AFI's rows only (kAfiRows).
@@ -170,23 +174,25 @@ constexpr RouteKeyLayout kRouteKeyLayouts[] = {
     {kAfiL2vpn, kSafiEvpn, 'S', evpnThreeAddressKey("<EVPN-Type6-Key: rd:", kGenAddrField)},
     {kAfiL2vpn, kSafiEvpn, 'p', evpnThreeAddressKey("<EVPN-Type10-Key: rd:", kGenAddrOptField)},
     {kAfiL2vpn, kSafiEvpn, 's', evpnThreeAddressKey("<EVPN-Type6-Key: rd:", kGenAddrOptField)},
-    {kAfiL2vpn, kSafiVpls, 'A', {{{"AD: rd:", kRdField}, kU32}}},
+    {kAfiL2vpn, kSafiVpls, 'A', {{{"AD: rd:", &kRdField}, kU32}}},
     {kAfiL2vpn,
      kSafiVpls,
      'V',
-     {{{"VE: rd:", kRdField}, {", veId:", kU16Field}, {", offset:", kU16Field}}}},
-    {kAfiL2vpn, kSafiVplsAd, kNoLetter, {{{"AD: u32:", kU32Field}}}},
-    {kAfiL2vpn, kSafiVplsVe, kNoLetter, {{{"VE: veId:", kU16Field}, {", offset:", kU16Field}}}},
+     {{{"VE: rd:", &kRdField}, {", veId:", &kU16Field}, {", offset:", &kU16Field}}}},
+    {kAfiL2vpn, kSafiVplsAd, kNoLetter, {{{"AD: u32:", &kU32Field}}}},
+    {kAfiL2vpn, kSafiVplsVe, kNoLetter, {{{"VE: veId:", &kU16Field}, {", offset:", &kU16Field}}}},
 
-    {kAfiLinkState, kSafiLinkState, 'L', linkStateKey("linkRk: proto:", {", raw:", kRawField<60>})},
-    {kAfiLinkState, kSafiLinkState, 'N', linkStateKey("nodeRk: proto:", {", raw:", kRawField<9>})},
+    {kAfiLinkState, kSafiLinkState, 'L',
+     linkStateKey("linkRk: proto:", {", raw:", &kRawField<60>})},
+    {kAfiLinkState, kSafiLinkState, 'N', linkStateKey("nodeRk: proto:", {", raw:", &kRawField<9>})},
     {kAfiLinkState, kSafiLinkState, 'P',
-     linkStateKey("prefixRk: proto:", {", raw:", kRawField<27>})},
+     linkStateKey("prefixRk: proto:", {", raw:", &kRawField<27>})},
     {kAfiLinkState, kSafiLinkState, 'l',
-     linkStateKey("linkRk: proto:", {", raw:", kRawField<18>}, {", ip:", kGenAddrOptField},
-                  {", ip2:", kGenAddrOptField})},
+     linkStateKey("linkRk: proto:", {", raw:", &kRawField<18>}, {", ip:", &kGenAddrOptField},
+                  {", ip2:", &kGenAddrOptField})},
     {kAfiLinkState, kSafiLinkState, 'p',
-     linkStateKey("prefixRk: proto:", {", raw:", kRawField<9>}, {", prefix:", kGenPrefixOptField})},
+     linkStateKey("prefixRk: proto:", {", raw:", &kRawField<9>},
+                  {", prefix:", &kGenPrefixOptField})},
 
     {kAfiMac, 241, kNoLetter, kMacSegmentShortKey},
     {kAfiMac, kSafiMacSegment, kNoLetter, kMacSegmentKey},
