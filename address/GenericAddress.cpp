@@ -23,20 +23,22 @@ void printTagged(Out& out, unsigned char tag, const unsigned char* v4, const uns
     printField(out, "unknown");
 }
 
-} // namespace
-
 template <class Out> unsigned printIpGenAddr(const unsigned char* p, Out& out) {
   printTagged(out, p[0], p + 1, p + 5);
   return lengthIpGenAddr(p);
 }
-unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os) { return printIpGenAddr(p, os); }
-unsigned appendIpGenAddr(const unsigned char* p, TextRun& text) { return printIpGenAddr(p, text); }
-unsigned lengthIpGenAddr(const unsigned char*) { return 21; }
 
 template <class Out> unsigned printIpGenAddrOpt(const unsigned char* p, Out& out) {
   printTagged(out, p[0], p + 1, p + 1);
   return lengthIpGenAddrOpt(p);
 }
+
+} // namespace
+
+unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os) { return printIpGenAddr(p, os); }
+unsigned appendIpGenAddr(const unsigned char* p, TextRun& text) { return printIpGenAddr(p, text); }
+unsigned lengthIpGenAddr(const unsigned char*) { return 21; }
+
 unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os) {
   return printIpGenAddrOpt(p, os);
 }

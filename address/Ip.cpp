@@ -62,6 +62,7 @@ unsigned lengthIp(const unsigned char*) { return 4; }
 unsigned formatIp6Addr(const unsigned char* p, std::ostream& os) { return printIp6(p, os); }
 unsigned appendIp6Addr(const unsigned char* p, TextRun& text) { return printIp6(p, text); }
 unsigned lengthIp6Addr(const unsigned char*) { return 16; }
+
 unsigned appendIpPrefix(const unsigned char* p, TextRun& text) {
   appendIp(p, text);
   text.join("/").number(p[4]);

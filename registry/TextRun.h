@@ -20,7 +20,10 @@
 // stream has no width at that point (and, for a number, prints plain decimal digits).
 // Otherwise the run is inserted first and the text after it, alone, exactly as an
 // insertion of its own would print. Formatters of the plug-in's own fields have an
-// append form (AppendPtr) that adds their text to a run this way.
+// append form (AppendPtr) that adds their text to a run this way. One trace remains
+// of the joining, on a stream whose buffer refuses text: the stream goes bad as before,
+// but one insertion fails where several did, so it lacks the failbit that the sentries
+// of the later ones would have added.
 #pragma once
 
 #include "registry/PlainDecimal.h"
