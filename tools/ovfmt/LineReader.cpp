@@ -6,19 +6,25 @@
 
 namespace Orvane::ovfmt {
 
-LineReader::LineReader(int fd, std::size_t blockSize) : fd_(fd), block_(blockSize) {}
+LineReader::LineReader(int fd, std::size_t blockSize)
+    : fd_(fd), blockSize_(blockSize), block_(std::make_unique_for_overwrite<char[]>(blockSize)) {}
 
 bool LineReader::next(std::vector<std::string_view>& lines) {
   lines.clear();
   if (atEnd_) return false;
   // Keep the incomplete line at the front; a line that fills the block doubles it.
-  std::memmove(block_.data(), block_.data() + begin_, end_ - begin_);
+  std::memmove(block_.get(), block_.get() + begin_, end_ - begin_);
   end_ -= begin_;
   begin_ = 0;
-  if (end_ == block_.size()) block_.resize(2 * block_.size());
+  if (end_ == blockSize_) {
+    auto larger = std::make_unique_for_overwrite<char[]>(2 * blockSize_);
+    std::memcpy(larger.get(), block_.get(), end_);
+    block_ = std::move(larger);
+    blockSize_ *= 2;
+  }
 
   ssize_t n;
-  do n = ::read(fd_, block_.data() + end_, block_.size() - end_);
+  do n = ::read(fd_, block_.get() + end_, blockSize_ - end_);
   while (n < 0 && errno == EINTR);
   if (n < 0) {
     error_ = std::strerror(errno);
@@ -28,7 +34,7 @@ bool LineReader::next(std::vector<std::string_view>& lines) {
   atEnd_ = n == 0;
   end_ += static_cast<std::size_t>(n);
 
-  const char* data = block_.data();
+  const char* data = block_.get();
   while (const void* newline = std::memchr(data + begin_, '\n', end_ - begin_)) {
     const auto at = static_cast<std::size_t>(static_cast<const char*>(newline) - data);
     lines.emplace_back(data + begin_, at - begin_);

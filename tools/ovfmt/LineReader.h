@@ -1,6 +1,7 @@
 // Reading input lines in large blocks, without a copy or an allocation per line.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,9 +28,10 @@ public:
 
 private:
   int fd_;
-  std::vector<char> block_;
-  std::size_t begin_ = 0; ///< start of the incomplete line kept from the last read
-  std::size_t end_ = 0;   ///< end of the bytes read
+  std::size_t blockSize_;
+  std::unique_ptr<char[]> block_; ///< not zero-filled: only what read() wrote is used
+  std::size_t begin_ = 0;         ///< start of the incomplete line kept from the last read
+  std::size_t end_ = 0;           ///< end of the bytes read
   bool atEnd_ = false;
   std::string error_;
 };

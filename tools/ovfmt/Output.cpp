@@ -19,7 +19,7 @@ bool writeAll(int fd, std::string_view bytes) {
 } // namespace
 
 bool Output::writeTo(int out, int err) {
-  const std::string_view text = text_;
+  const std::string_view text = text_.text();
   std::size_t written = 0;
   bool ok = true;
   for (const ErrorLine& error : errors_) {

@@ -5,7 +5,7 @@
 
 namespace Orvane::ovfmt {
 
-TextStream::Buffer::Buffer() : chars_(256) { reset(); }
+TextStream::Buffer::Buffer() { truncate(0); }
 
 void TextStream::Buffer::advanceFar(std::size_t count) {
   // pbump() takes an int: a text past 2 GiB is advanced in steps.
@@ -18,9 +18,11 @@ void TextStream::Buffer::advanceFar(std::size_t count) {
 
 void TextStream::Buffer::grow(std::size_t count) {
   const std::size_t used = size();
-  chars_.resize(std::max(2 * chars_.size(), used + count));
-  setp(chars_.data(), chars_.data() + chars_.size());
-  advance(used);
+  capacity_ = std::max(2 * capacity_, used + count);
+  auto larger = std::make_unique_for_overwrite<char[]>(capacity_);
+  std::memcpy(larger.get(), chars_.get(), used);
+  chars_ = std::move(larger);
+  truncate(used);
 }
 
 TextStream::Buffer::int_type TextStream::Buffer::overflow(int_type c) {
