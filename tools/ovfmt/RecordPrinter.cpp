@@ -47,13 +47,13 @@ bool RecordPrinter::printCounts(const Where& where, Output& output) {
   TextStream& text = output.text();
   for (const Argument& argument : arguments) {
     text.append(argument.id);
-    text.append("\t");
+    text.append('\t');
     text.append(std::to_string(argument.length));
-    text.append("\t");
+    text.append('\t');
     text.append(std::to_string(argument.consumed));
-    text.append("\t");
+    text.append('\t');
     text.append(argument.text);
-    text.append("\n");
+    text.append('\n');
   }
   if (arguments.size() < types_.size())
     return fail(where, prefix(arguments.size()) + notReachedProblem(arguments.size()), output);
