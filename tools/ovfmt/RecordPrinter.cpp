@@ -17,10 +17,10 @@ bool RecordPrinter::print(const Where& where, std::string_view idList, std::stri
 bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output& output) {
   if (const auto* known = typeLists_.find(idList)) {
     types_ = *known;
-    return fitsTemplate(where, types_.size(), output);
+    return fitsTemplate(types_.size()) || templateMisfit(where, types_.size(), output);
   }
   splitIdList(idList, ids_);
-  if (!fitsTemplate(where, ids_.size(), output)) return false;
+  if (!fitsTemplate(ids_.size())) return templateMisfit(where, ids_.size(), output);
   resolved_.clear();
   for (std::size_t i = 0; i < ids_.size(); ++i) {
     const host::FormatterPair* formatter = formatters_.find(ids_[i]);
@@ -37,8 +37,7 @@ bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output&
   return true;
 }
 
-bool RecordPrinter::fitsTemplate(const Where& where, std::size_t count, Output& output) {
-  if (!options_.layout || options_.layout->placeholders() == count) return true;
+bool RecordPrinter::templateMisfit(const Where& where, std::size_t count, Output& output) {
   return fail(where, placeholderCountProblem(options_.layout->placeholders(), count), output);
 }
 
@@ -57,7 +56,7 @@ bool RecordPrinter::printCounts(const Where& where, Output& output) {
   }
   if (arguments.size() < types_.size())
     return fail(where, prefix(arguments.size()) + notReachedProblem(arguments.size()), output);
-  reportLeftover(where, arguments, output);
+  if (hasLeftover()) reportLeftover(where, arguments, output);
   return true;
 }
 
@@ -79,7 +78,7 @@ bool RecordPrinter::printText(const Where& where, Output& output) {
   }
   if (options_.layout) text.append(options_.layout->literal(types_.size()));
   text.append('\n');
-  reportLeftover(where, arguments, output);
+  if (hasLeftover()) reportLeftover(where, arguments, output);
   return true;
 }
 
@@ -97,8 +96,7 @@ std::span<const std::string_view> RecordPrinter::gaps() {
 
 void RecordPrinter::reportLeftover(const Where& where, std::span<const Argument> arguments,
                                    Output& output) {
-  if (walker_.finished() && walker_.leftover() > 0)
-    fail(where, prefix(arguments.size() - 1) + leftoverProblem(walker_.leftover()), output);
+  fail(where, prefix(arguments.size() - 1) + leftoverProblem(walker_.leftover()), output);
 }
 
 bool RecordPrinter::fail(const Where& where, const std::string& problem, Output& output) {

@@ -46,14 +46,20 @@ public:
 private:
   /// Sets types_ to the arguments of `idList`; false when the record failed.
   bool resolve(const Where& where, std::string_view idList, Output& output);
-  /// Checks the template's placeholders against `count` arguments.
-  bool fitsTemplate(const Where& where, std::size_t count, Output& output);
+  /// Whether the template, if any, has one placeholder for each of `count` arguments.
+  bool fitsTemplate(std::size_t count) const {
+    return !options_.layout || options_.layout->placeholders() == count;
+  }
+  /// Reports a record of `count` arguments that does not fit the template.
+  bool templateMisfit(const Where& where, std::size_t count, Output& output);
   /// Walks the record loaded and prints it, as the options say.
   bool printCounts(const Where& where, Output& output);
   bool printText(const Where& where, Output& output);
   /// The text before each argument of the current record: the template's literals, or
   /// the separator between arguments (none before the first).
   std::span<const std::string_view> gaps();
+  /// Whether the walk ended before the record's last byte.
+  bool hasLeftover() const { return walker_.finished() && walker_.leftover() > 0; }
   void reportLeftover(const Where& where, std::span<const Argument> arguments, Output& output);
   /// Adds "ovfmt: WHERE: PROBLEM" as an error line; returns false for `return fail(...)`.
   bool fail(const Where& where, const std::string& problem, Output& output);
