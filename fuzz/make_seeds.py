@@ -1,17 +1,20 @@
 #!/usr/bin/env python3
 """Writes a seed corpus for the formatter fuzzer from the project's test vectors.
 
-Vectors are the "ID HEX..." lines of examples/demo.txt and the {"ID", "hex", ...}
-cases of the tests. Writes OUT/<ID>/<n> (the value alone, for ORVANE_FUZZ_ID runs),
-OUT/all/<ID>-<n> (the id's index among the sorted demo ids, then the value) and
-OUT/records/<n> (two consecutive demo values as one record, for ORVANE_FUZZ_RECORDS runs:
-the count byte 1, both ids' indexes, then both values).
+Vectors are the "ID HEX..." lines of examples/demo.txt and of the tests' vector files
+(tests/vectors/*.txt), the {"ID", "hex", ...} cases of the C++ tests and the
+"$ ovfmt ID HEX..." examples of docs/route-keys.md. Writes OUT/<ID>/<n> (the value
+alone, for ORVANE_FUZZ_ID runs), OUT/all/<ID>-<n> (the id's index among the sorted demo
+ids, then the value) and OUT/records/<n> (two consecutive demo values as one record, for
+ORVANE_FUZZ_RECORDS runs: the count byte 1, both ids' indexes, then both values).
 """
 import pathlib
 import re
 import sys
 
 CASE = re.compile(r'\{"([A-Za-z0-9]+)",\s*"([0-9a-fA-F :]*)"')
+VECTOR = re.compile(r"^([A-Za-z0-9]+)((?: [0-9a-f]{2})*) => ", re.M)
+DOC_EXAMPLE = re.compile(r"^\$ ovfmt ([A-Za-z0-9]+) ([0-9a-f ]+)$", re.M)
 
 
 def demo_vectors(demo):
@@ -23,8 +26,11 @@ def demo_vectors(demo):
 
 def vectors(demo, tests_dir):
     yield from demo_vectors(demo)
-    for source in sorted(tests_dir.rglob("*.cpp")):
-        for match in CASE.finditer(source.read_text()):
+    sources = [(CASE, path) for path in sorted(tests_dir.rglob("*.cpp"))]
+    sources += [(VECTOR, path) for path in sorted(tests_dir.rglob("vectors/*.txt"))]
+    sources.append((DOC_EXAMPLE, tests_dir.parent / "docs" / "route-keys.md"))
+    for pattern, source in sources:
+        for match in pattern.finditer(source.read_text()):
             yield match.group(1), match.group(2)
 
 

@@ -71,8 +71,8 @@ unsigned formatUnsignedSequence(const unsigned char* p, std::ostream& os) {
   unsigned off = kSequenceHeader;
   for (unsigned i = 0; i < count; ++i) {
     const FormatPtr element = elementFormatter(at(p, off)[0]);
-    if (!element) return kInvalidLength;
     if (i > 0) os << separator;
+    if (!element) return kInvalidLength;
     off += 1 + element(at(p, off + 1), os);
   }
   return off;

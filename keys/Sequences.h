@@ -19,9 +19,9 @@ namespace Orvane {
 
 /// "US": the elements through formatU8/U16/U32/U64 by width, the separator byte
 /// written as one character between them; an empty sequence prints nothing. A width
-/// other than 1, 2, 4 or 8 ends the walk: nothing is printed for that element (nor the
-/// separator before it) and the result is 0xFFFFFFFF. Otherwise returns the offset
-/// after the last element.
+/// other than 1, 2, 4 or 8 ends the walk: the separator before that element is still
+/// printed (it is an element of the sequence), nothing of the element itself, and the
+/// result is 0xFFFFFFFF. Otherwise returns the offset after the last element.
 ORVANE_API unsigned formatUnsignedSequence(const unsigned char* p, std::ostream& os);
 /// 2 + the sum of 1 + w over the elements, or 0xFFFFFFFF at the first bad width.
 ORVANE_API unsigned lengthUnsignedSequence(const unsigned char* p);

@@ -35,7 +35,7 @@ TEST(BaseFormatters, MatchTheStreamsOwnInsertion) {
 }
 
 TEST(Registry, LookupsWhileEnoughIdsToGrowTheTableRegister) {
-  auto id = [](int i) { return "T" + std::to_string(i % 400); };
+  auto id = [](int i) { return std::to_string(i % 400).append("T"); };
   std::thread reader([&] {
     for (int i = 0; i < 400000; i += 7) {
       const auto* pair = host::findFormatter(id(i));

@@ -65,13 +65,18 @@ void expectRuns(const std::vector<CliCase>& cases) {
     std::string command;
     for (const auto& arg : c.args) command += arg + " ";
     SCOPED_TRACE("ovfmt " + command);
-    const auto result = runOvfmt(c.args, c.input);
+    const auto result = runOvfmt(c.args, c.input, c.env);
     EXPECT_EQ(result.out, c.out);
     if (c.errContains.empty())
       EXPECT_EQ(result.err, "");
     else
       EXPECT_NE(result.err.find(c.errContains), std::string::npos) << result.err;
     EXPECT_EQ(result.status, c.status);
+    std::istringstream err(result.err);
+    for (std::string line; std::getline(err, line);) {
+      EXPECT_LT(line.size(), 200u) << line.substr(0, 200);
+      for (char ch : line) EXPECT_TRUE(ch >= 0x20 && ch < 0x7f) << int(ch);
+    }
   }
 }
 

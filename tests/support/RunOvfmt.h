@@ -24,9 +24,12 @@ struct CliCase {
   std::string out;
   std::string errContains; ///< empty: stderr must be empty
   int status;
+  std::vector<std::string> env = {}; ///< added to the environment
 };
 
-/// Runs every case, expecting its output, error text and status.
+/// Runs every case, expecting its output, error text and status. Whatever the case,
+/// stderr must be printable lines of less than 200 characters (a quoted id or value is
+/// cut short).
 void expectRuns(const std::vector<CliCase>& cases);
 
 } // namespace Orvane::test
