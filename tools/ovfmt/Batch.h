@@ -3,6 +3,7 @@
 
 #include "tools/ovfmt/RecordPrinter.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,12 @@ struct BatchSummary {
   std::string readError;   ///< why reading the input stopped early, or empty
   std::string writeError;  ///< why standard output or error could not be written, or empty
 };
+
+/// Formats the records among `lines`, the first of them numbered `firstLine`, with
+/// `printer` into `output`, counting them and their failures in `summary`.
+void formatLines(RecordPrinter& printer, std::span<const std::string_view> lines,
+                 std::size_t firstLine, std::string_view name, Output& output,
+                 BatchSummary& summary);
 
 /// Reads "ID[,ID...] HEX..." lines from `in` (named `name` in messages; blank lines and
 /// lines starting with '#' after blanks are skipped) and prints each record as
