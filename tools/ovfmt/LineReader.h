@@ -10,8 +10,9 @@ namespace Orvane::ovfmt {
 
 /// Reads a file descriptor block by block and hands out its complete lines. Memory is
 /// bounded by two blocks, each of the block size or, when a line is longer, of about
-/// twice that line: an endless pipe is read as it comes. Each read() returns what is there, so
-/// lines typed at a terminal or written slowly into a pipe come out as soon as they are complete.
+/// twice that line: an endless pipe is read as it comes. Each read() returns what is
+/// there, so lines typed at a terminal or written slowly into a pipe come out as soon
+/// as they are complete.
 class LineReader {
 public:
   /// Reads `fd` (not closed here) in blocks of about `blockSize` bytes.
