@@ -32,18 +32,12 @@ BatchSummary formatOnThreads(LineReader& reader, std::string_view name, const Pr
   WorkerPool pool(jobs, options, name, out, err);
   // Two blocks of lines in turn: the threads format one while the next is read.
   std::vector<std::string_view> blocks[2];
-  bool started = false;
-  BatchSummary summary;
   for (std::size_t firstLine = 1, current = 0; reader.next(blocks[current]); current ^= 1) {
-    if (started) {
-      summary.writeError = pool.finish();
-      if (!summary.writeError.empty()) break;
-    }
-    pool.start(blocks[current], firstLine);
-    started = true;
+    if (!pool.start(blocks[current], firstLine)) break;
     firstLine += blocks[current].size();
   }
-  if (started && summary.writeError.empty()) summary.writeError = pool.finish();
+  BatchSummary summary;
+  summary.writeError = pool.finish();
   pool.addTo(summary);
   return summary;
 }

@@ -29,11 +29,11 @@ void formatLines(RecordPrinter& printer, std::span<const std::string_view> lines
 ///
 /// With `jobs` above 1, `jobs` threads of their own format each block read, taking runs
 /// of consecutive lines in turn, each thread with its own printer, while the calling
-/// thread reads the next block. The last thread done with a block writes its runs in
-/// input order: stdout, stderr and the summary are byte for byte those of one job.
-/// Only two blocks of lines and one block's output are held at a time, so an endless
-/// pipe runs in bounded memory, and every block's output is written as soon as it is
-/// formatted, before more input arrives.
+/// thread reads the next block and the last thread done with the block before writes
+/// it (see WorkerPool). Blocks are written whole and in input order: stdout, stderr and
+/// the summary are byte for byte those of one job. Only two blocks of lines and two of
+/// output are held at a time, so an endless pipe runs in bounded memory, and every
+/// block's output is written as soon as it is formatted, before more input arrives.
 BatchSummary formatBatch(int in, std::string_view name, const PrintOptions& options, unsigned jobs,
                          int out, int err);
 

@@ -29,27 +29,31 @@ WorkerPool::~WorkerPool() {
   threads_.clear(); // joins
 }
 
-void WorkerPool::start(std::span<const std::string_view> lines, std::size_t firstLine) {
-  runCount_ = (lines.size() + kLinesPerRun - 1) / kLinesPerRun;
-  while (runs_.size() < runCount_) runs_.push_back(std::make_unique<Run>());
-  for (std::size_t r = 0; r < runCount_; ++r) {
+bool WorkerPool::start(std::span<const std::string_view> lines, std::size_t firstLine) {
+  std::unique_lock lock(mutex_);
+  const std::uint64_t block = started_ + 1;
+  // The threads are out of the block before, and the runs this block reuses are written.
+  progress_.wait(lock, [&] { return formatted_ == started_ && written_ + 2 >= block; });
+  if (!writeError_.empty()) return false;
+  Runs& runs = runsOf(block);
+  runs.count = (lines.size() + kLinesPerRun - 1) / kLinesPerRun;
+  while (runs.runs.size() < runs.count) runs.runs.push_back(std::make_unique<Run>());
+  for (std::size_t r = 0; r < runs.count; ++r) {
     const std::size_t begin = r * kLinesPerRun;
-    runs_[r]->lines = lines.subspan(begin, std::min(kLinesPerRun, lines.size() - begin));
-    runs_[r]->firstLine = firstLine + begin;
+    runs.runs[r]->lines = lines.subspan(begin, std::min(kLinesPerRun, lines.size() - begin));
+    runs.runs[r]->firstLine = firstLine + begin;
   }
   nextRun_ = 0;
-  {
-    std::lock_guard lock(mutex_);
-    busy_ = workers_.size();
-    written_ = false;
-    ++blocks_;
-  }
+  busy_ = workers_.size();
+  started_ = block;
+  lock.unlock();
   wake_.notify_all();
+  return true;
 }
 
 std::string WorkerPool::finish() {
   std::unique_lock lock(mutex_);
-  done_.wait(lock, [this] { return written_; });
+  progress_.wait(lock, [this] { return written_ == started_; });
   return writeError_;
 }
 
@@ -60,36 +64,44 @@ void WorkerPool::addTo(BatchSummary& summary) const {
   }
 }
 
-// Every thread passes through every block, so once the last is out, no thread touches
-// the runs until start() hands out the next block.
+// Every thread passes through every block, so once the last is out, no thread takes a
+// run of it any more, and start() may hand out the next.
 void WorkerPool::serve(Worker& worker) {
   std::uint64_t seen = 0;
   for (;;) {
-    {
-      std::unique_lock lock(mutex_);
-      wake_.wait(lock, [&] { return stopping_ || blocks_ != seen; });
-      if (stopping_) return;
-      seen = blocks_;
-    }
-    for (std::size_t r; (r = nextRun_.fetch_add(1)) < runCount_;)
-      formatLines(worker.printer, runs_[r]->lines, runs_[r]->firstLine, name_, runs_[r]->output,
-                  worker.summary);
     std::unique_lock lock(mutex_);
-    if (--busy_ > 0) continue;
+    wake_.wait(lock, [&] { return stopping_ || started_ != seen; });
+    if (stopping_) return;
+    seen = started_;
+    const Runs& runs = runsOf(seen);
     lock.unlock();
-    // errno is the writing thread's own: put it into words here.
-    std::string error = writeRuns() ? "" : std::strerror(errno);
+    for (std::size_t r; (r = nextRun_.fetch_add(1)) < runs.count;) {
+      Run& run = *runs.runs[r];
+      formatLines(worker.printer, run.lines, run.firstLine, name_, run.output, worker.summary);
+    }
     lock.lock();
-    writeError_ = std::move(error);
-    written_ = true;
-    done_.notify_one();
+    if (--busy_ > 0) continue;
+    formatted_ = seen;
+    progress_.notify_all();
+    write(seen, lock);
   }
 }
 
-bool WorkerPool::writeRuns() {
-  for (std::size_t r = 0; r < runCount_; ++r)
-    if (!runs_[r]->output.writeTo(out_, err_)) return false;
-  return true;
+void WorkerPool::write(std::uint64_t block, std::unique_lock<std::mutex>& lock) {
+  progress_.wait(lock, [&] { return written_ + 1 == block; });
+  if (writeError_.empty()) {
+    lock.unlock();
+    const Runs& runs = runsOf(block);
+    bool wrote = true;
+    for (std::size_t r = 0; r < runs.count && wrote; ++r)
+      wrote = runs.runs[r]->output.writeTo(out_, err_);
+    // errno is the writing thread's own: put it into words here.
+    std::string error = wrote ? "" : std::strerror(errno);
+    lock.lock();
+    writeError_ = std::move(error);
+  }
+  written_ = block;
+  progress_.notify_all();
 }
 
 } // namespace Orvane::ovfmt

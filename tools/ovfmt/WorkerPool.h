@@ -1,4 +1,5 @@
-// Formatting a batch on several threads while the next block is read.
+// Formatting a batch on several threads while the next block is read and the one
+// before is written.
 #pragma once
 
 #include "tools/ovfmt/Batch.h"
@@ -18,26 +19,28 @@
 
 namespace Orvane::ovfmt {
 
-/// Formats blocks of lines on `jobs` threads of its own, each with its own printer,
-/// while the caller reads the next block. A block is cut into runs of consecutive lines
-/// that the threads take in turn, so they finish it together; the last thread out
-/// writes the runs' output in input order, so a block's text goes out as soon as it is
-/// ready, even while the caller waits for input.
+/// Formats blocks of lines on `jobs` threads of its own, each with its own printer.
+/// A block is cut into runs of consecutive lines that the threads take in turn, so
+/// they finish it together. The last thread out of a block writes the block's runs in
+/// input order, once the block before is written, while the others go on with the
+/// next block: neither reading (the caller's) nor writing holds the threads up. A
+/// block's text goes out as soon as it is ready, even while the caller waits for input.
 class WorkerPool {
 public:
   /// Starts the threads. Records are printed with `options` and named `name` in
   /// messages; output goes to the descriptors `out` and `err`.
   WorkerPool(unsigned jobs, const PrintOptions& options, std::string_view name, int out, int err);
-  /// Stops and joins the threads.
+  /// Stops and joins the threads; call finish() first.
   ~WorkerPool();
 
-  /// Hands `lines`, the first numbered `firstLine`, to the threads. They must stay
-  /// valid until finish() returns, and finish() must have returned for the block
-  /// before.
-  void start(std::span<const std::string_view> lines, std::size_t firstLine);
+  /// Hands `lines`, the first numbered `firstLine`, to the threads, once the block
+  /// before is formatted and the one before that written. The lines of the block before
+  /// are no longer used when it returns; these must stay valid until the next start()
+  /// or finish() returns. Returns false, starting nothing, once a write has failed.
+  bool start(std::span<const std::string_view> lines, std::size_t firstLine);
 
-  /// Waits until the block given to start() is formatted and written. Returns why a
-  /// write failed, or an empty string.
+  /// Waits until every block started is formatted and written. Returns why a write
+  /// failed, or an empty string.
   std::string finish();
 
   /// Adds the records and failures that the threads saw to `summary`; call it after
@@ -51,6 +54,12 @@ private:
     std::size_t firstLine = 0;
     Output output;
   };
+  // The runs of one block. Blocks use two of these in turn: one is written while the
+  // next block is formatted into the other.
+  struct Runs {
+    std::vector<std::unique_ptr<Run>> runs; ///< the first `count` are the block's
+    std::size_t count = 0;
+  };
   // One thread's printer (its caches serve that thread only) and what it saw.
   struct Worker {
     explicit Worker(const PrintOptions& options) : printer(options) {}
@@ -61,21 +70,22 @@ private:
   /// A thread's life: each block, take runs until none is left; the last thread out
   /// writes the block.
   void serve(Worker& worker);
-  /// Writes the current block's runs in order; false when a write failed.
-  bool writeRuns();
+  /// Writes block `block` once the one before is written; `lock` holds mutex_.
+  void write(std::uint64_t block, std::unique_lock<std::mutex>& lock);
+  Runs& runsOf(std::uint64_t block) { return runs_[block % 2]; }
 
   std::string_view name_;
   int out_, err_;
   std::vector<std::unique_ptr<Worker>> workers_;
-  std::vector<std::unique_ptr<Run>> runs_; ///< the first runCount_ are the current block's
-  std::size_t runCount_ = 0;
+  Runs runs_[2];
   std::atomic<std::size_t> nextRun_ = 0;
 
   std::mutex mutex_;
-  std::condition_variable wake_, done_;
-  std::uint64_t blocks_ = 0; ///< blocks started
-  std::size_t busy_ = 0;     ///< threads not yet out of the current block
-  bool written_ = true;
+  std::condition_variable wake_, progress_;
+  std::uint64_t started_ = 0;   ///< blocks started, numbered from 1
+  std::uint64_t formatted_ = 0; ///< blocks formatted, in order
+  std::uint64_t written_ = 0;   ///< blocks written (or dropped after a failed write), in order
+  std::size_t busy_ = 0;        ///< threads not yet out of the block started last
   std::string writeError_;
   bool stopping_ = false;
   std::vector<std::jthread> threads_; ///< last, so that they stop before the rest goes
