@@ -1,6 +1,7 @@
 // What a run prints, gathered in memory and written in order to two file descriptors.
 #pragma once
 
+#include "tools/ovfmt/GatheringWriter.h"
 #include "tools/ovfmt/TextStream.h"
 
 #include <string>
@@ -24,6 +25,12 @@ public:
   /// Writes everything in order to `out` and `err` and empties the buffers (keeping
   /// their capacity). Returns false when a write failed; what is left is dropped.
   bool writeTo(int out, int err);
+  /// Queues everything in order for `out` and `err` on `writer`, to be written with
+  /// what is queued after it; clear() only once the writer has flushed. Returns false
+  /// when a write failed.
+  bool queue(GatheringWriter& writer, int out, int err) const;
+  /// Empties the buffers, keeping their capacity.
+  void clear();
 
 private:
   struct ErrorLine {

@@ -94,7 +94,9 @@ void WorkerPool::write(std::uint64_t block, std::unique_lock<std::mutex>& lock) 
     const Runs& runs = runsOf(block);
     bool wrote = true;
     for (std::size_t r = 0; r < runs.count && wrote; ++r)
-      wrote = runs.runs[r]->output.writeTo(out_, err_);
+      wrote = runs.runs[r]->output.queue(writer_, out_, err_);
+    wrote = wrote && writer_.flush();
+    for (std::size_t r = 0; r < runs.count; ++r) runs.runs[r]->output.clear();
     // errno is the writing thread's own: put it into words here.
     std::string error = wrote ? "" : std::strerror(errno);
     lock.lock();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tools/ovfmt/Batch.h"
+#include "tools/ovfmt/GatheringWriter.h"
 #include "tools/ovfmt/Output.h"
 #include "tools/ovfmt/RecordPrinter.h"
 
@@ -78,6 +79,7 @@ private:
   int out_, err_;
   std::vector<std::unique_ptr<Worker>> workers_;
   Runs runs_[2];
+  GatheringWriter writer_; ///< used by one writing thread at a time
   std::atomic<std::size_t> nextRun_ = 0;
 
   std::mutex mutex_;
