@@ -152,6 +152,10 @@ def ovfmt_block(results):
         f"`ovfmt --batch` over {o['lines']:,} generated lines, output to /dev/null, median of "
         f"{len(o['runs'])} runs: **{o['lines'] / cpu / 1e6:.2f} M lines per CPU second** "
         f"({cpu:.2f} s CPU, {wall:.2f} s wall).",
+    ]
+    if o.get("jobs"):
+        lines += ["", jobs_sentence(o["jobs"], o["lines"])]
+    lines += [
         "",
         f"Callgrind over the first {o['profile_lines']:,} lines: "
         f"{profile['total_ir'] / o['profile_lines']:,.0f} instructions per line. Inclusive "
@@ -169,6 +173,17 @@ def ovfmt_block(results):
         lines += ["", "(perf could not sample on this machine, so there is no time profile: "
                   "install linux-perf, or allow sampling with kernel.perf_event_paranoid.)"]
     return "\n".join(lines)
+
+
+def jobs_sentence(jobs, trace_lines):
+    """--jobs 2 against --jobs 1 in lines per wall second, from runs made in turn."""
+    wall = {n: statistics.median(run["wall"] for run in runs) for n, runs in jobs["runs"].items()}
+    cpu = {n: statistics.median(run["cpu"] for run in runs) for n, runs in jobs["runs"].items()}
+    return (f"`--jobs 2` against `--jobs 1` over the same lines, {len(jobs['runs']['2'])} runs "
+            f"of each in turn: **{wall['1'] / wall['2']:.2f}x the lines per wall second** "
+            f"({trace_lines / wall['2'] / 1e6:.2f} M against {trace_lines / wall['1'] / 1e6:.2f} "
+            f"M, medians; {cpu['2']:.2f} s CPU against {cpu['1']:.2f} s). Load average "
+            f"{jobs['load'][0]:.1f} before these runs, {jobs['load'][1]:.1f} after.")
 
 
 def python_block(results):

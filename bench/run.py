@@ -24,6 +24,7 @@ TRACE_LINES = 1_000_000
 CORPUS_VALUES = 20_000
 PROFILE_LINES = 20_000
 OVFMT_RUNS = 3
+JOBS_RUNS = 7
 LOAD_RUNS = 25
 PASSES = 5
 MIN_TIME = 0.05
@@ -130,18 +131,30 @@ def perf_profile(command, out):
     return [(float(percent), library, function) for percent, library, function in rows]
 
 
+def jobs_runs(ovfmt, trace):
+    """Wall and CPU time of --jobs 1 and --jobs 2 over the whole trace, run in turn so that
+    load from other processes falls on both alike, and the load average around them."""
+    runs = {"1": [], "2": []}
+    load_before = os.getloadavg()[0]
+    for _ in range(JOBS_RUNS):
+        for jobs, measured in runs.items():
+            measured.append(timed([ovfmt, "--jobs", jobs, "--batch", str(trace)]))
+    return {"runs": runs, "load": [load_before, os.getloadavg()[0]]}
+
+
 def ovfmt_throughput(build, trace, out):
     """Wall and CPU time of ovfmt --batch over the whole trace, where that time goes, and
-    an instruction profile of a slice."""
+    an instruction profile of a slice; then --jobs 2 against --jobs 1."""
     ovfmt = str(build / "bin/ovfmt")
     runs = [timed([ovfmt, "--batch", str(trace)]) for _ in range(OVFMT_RUNS)]
+    jobs = jobs_runs(ovfmt, trace)
     perf = perf_profile([ovfmt, "--batch", str(trace)], out)
     profile_input = out / "profile-slice.txt"
     with open(trace) as lines, open(profile_input, "w") as slice_file:
         slice_file.writelines(line for _, line in zip(range(PROFILE_LINES), lines))
     profile = callgrind([ovfmt, "--batch", str(profile_input)], out / "ovfmt.callgrind")
     return {"lines": TRACE_LINES, "runs": runs, "perf": perf, "profile_lines": PROFILE_LINES,
-            "profile": profile}
+            "profile": profile, "jobs": jobs}
 
 
 def format_many_throughput(build, trace):

@@ -105,5 +105,17 @@ TEST(OvfmtRecord, JobsPrintWhatOneJobPrints) {
   }
 }
 
+TEST(OvfmtRecord, JobsAcrossBlocks) { // 1.2 MB: two blocks, a line across, a bad one in each
+  std::string input;
+  for (int i = 1; i <= 90000; ++i) input += i % 40000 ? "I 01 00 00 0a\n" : "I 0a 0z\n";
+  const auto one = runOvfmt({"--batch"}, input), two = runOvfmt({"--jobs", "2", "--batch"}, input);
+  EXPECT_TRUE(two.out == one.out && two.err == one.err) << one.err << two.err;
+}
+
+TEST(OvfmtRecord, HexBesideTheUsualPairAndBlank) {
+  expectRuns({{{"I", "0a:00\t00  01"}, "", "1.0.0.10\n", "", 0},
+              {{"I", "0a 00 z0 01"}, "", "", "bad hex: 'z' at column 7", 1}});
+}
+
 } // namespace
 } // namespace Orvane::test

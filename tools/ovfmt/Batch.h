@@ -3,6 +3,7 @@
 
 #include "tools/ovfmt/RecordPrinter.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -10,22 +11,29 @@ namespace Orvane::ovfmt {
 
 /// How a batch went.
 struct BatchSummary {
-  std::size_t records = 0;  ///< lines that held a record (not blank, not a comment)
-  bool allPrinted = true;   ///< no record failed
-  std::string readError;    ///< why reading the input stopped early, or empty
-  bool writeFailed = false; ///< standard output or error could not be written
+  std::size_t records = 0; ///< lines that held a record (not blank, not a comment)
+  bool allPrinted = true;  ///< no record failed
+  std::string readError;   ///< why reading the input stopped early, or empty
+  std::string writeError;  ///< why standard output or error could not be written, or empty
 };
+
+/// Formats the records among `lines`, the first of them numbered `firstLine`, with
+/// `printer` into `output`, counting them and their failures in `summary`.
+void formatLines(RecordPrinter& printer, std::span<const std::string_view> lines,
+                 std::size_t firstLine, std::string_view name, Output& output,
+                 BatchSummary& summary);
 
 /// Reads "ID[,ID...] HEX..." lines from `in` (named `name` in messages; blank lines and
 /// lines starting with '#' after blanks are skipped) and prints each record as
 /// RecordPrinter does to the descriptors `out` and `err`.
 ///
-/// With `jobs` above 1, the lines of each block read are split into that many runs of
-/// consecutive lines, formatted on as many threads, each with its own printer, buffer
-/// and stream, and written in input order once all are done: stdout, stderr and the
-/// summary are byte for byte those of one job. Only a block's worth of lines and their
-/// output is held at a time, so an endless pipe runs in bounded memory, and every
-/// block's output is written before the next read waits for input.
+/// With `jobs` above 1, `jobs` threads of their own format each block read, taking runs
+/// of consecutive lines in turn, each thread with its own printer, while the calling
+/// thread reads the next block and the last thread done with the block before writes
+/// it (see WorkerPool). Blocks are written whole and in input order: stdout, stderr and
+/// the summary are byte for byte those of one job. Only two blocks of lines and two of
+/// output are held at a time, so an endless pipe runs in bounded memory, and every
+/// block's output is written as soon as it is formatted, before more input arrives.
 BatchSummary formatBatch(int in, std::string_view name, const PrintOptions& options, unsigned jobs,
                          int out, int err);
 

@@ -13,18 +13,21 @@ void splitIdList(std::string_view list, std::vector<std::string_view>& ids) {
 }
 
 const host::FormatterPair* FormatterCache::find(std::string_view id) {
-  std::size_t hash = 14695981039346656037u; // FNV-1a: ids are a few characters long
-  for (char c : id) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
-  for (std::size_t i = hash;; ++i) {
-    Slot& slot = slots_[i % kSlots];
-    if (slot.formatter && slot.id == id) return slot.formatter;
-    if (slot.formatter) continue;
-    const host::FormatterPair* formatter = host::findFormatter(id);
-    if (formatter && remembered_ < kMaxRemembered) {
-      slot = {std::string(id), formatter};
-      ++remembered_;
-    }
-    return formatter;
+  if (const auto* entry = pairs_.find(id)) return entry->value;
+  const host::FormatterPair* formatter = host::findFormatter(id);
+  if (formatter)
+    if (auto* entry = pairs_.add(id)) entry->value = formatter;
+  return formatter;
+}
+
+void TypeListCache::remember(std::string_view idList, std::span<const ArgumentType> types) {
+  auto* entry = lists_.add(idList);
+  if (!entry) return;
+  // The ids view the caller's list: point them at the same characters of the copy kept.
+  for (const ArgumentType& type : types) {
+    const auto at = static_cast<std::size_t>(type.id.data() - idList.data());
+    entry->value.push_back(
+        {std::string_view(entry->key).substr(at, type.id.size()), type.formatter});
   }
 }
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "host/Registry.h"
+#include "tools/ovfmt/Record.h"
+#include "tools/ovfmt/StringTable.h"
 
-#include <string>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -24,16 +26,24 @@ public:
   const host::FormatterPair* find(std::string_view id);
 
 private:
-  // Open addressing in a power-of-two table: no division and no node to chase per
-  // lookup. It stops remembering at three quarters full (far more ids than any plug-in
-  // set registers), so a probe always ends at an empty slot.
-  static constexpr std::size_t kSlots = 512, kMaxRemembered = kSlots / 4 * 3;
-  struct Slot {
-    std::string id;
-    const host::FormatterPair* formatter = nullptr; ///< nullptr: the slot is empty
-  };
-  std::vector<Slot> slots_ = std::vector<Slot>(kSlots);
-  std::size_t remembered_ = 0;
+  StringTable<const host::FormatterPair*> pairs_;
+};
+
+/// The argument types of whole id lists, so that a list seen before is neither split nor
+/// looked up id by id again. Only lists whose every id resolved are remembered, for the
+/// reason FormatterCache gives. One cache serves one thread.
+class TypeListCache {
+public:
+  /// The types remembered for `idList`, or nullptr.
+  const std::vector<ArgumentType>* find(std::string_view idList) const {
+    const auto* entry = lists_.find(idList);
+    return entry ? &entry->value : nullptr;
+  }
+  /// Remembers `types`, resolved from the ids that splitIdList() found in `idList`.
+  void remember(std::string_view idList, std::span<const ArgumentType> types);
+
+private:
+  StringTable<std::vector<ArgumentType>> lists_;
 };
 
 } // namespace Orvane::ovfmt

@@ -6,19 +6,29 @@
 
 namespace Orvane::ovfmt {
 
-LineReader::LineReader(int fd, std::size_t blockSize) : fd_(fd), block_(blockSize) {}
+LineReader::LineReader(int fd, std::size_t blockSize) : fd_(fd) {
+  for (Block& block : blocks_) block.allocate(blockSize);
+}
+
+void LineReader::switchBlocks() {
+  Block& from = *block_;
+  Block& to = block_ == &blocks_[0] ? blocks_[1] : blocks_[0];
+  // A line that leaves no room to read gets a block twice its size.
+  const std::size_t kept = end_ - begin_;
+  if (kept >= to.size) to.allocate(2 * kept);
+  std::memcpy(to.chars.get(), from.chars.get() + begin_, kept);
+  block_ = &to;
+  begin_ = 0;
+  end_ = kept;
+}
 
 bool LineReader::next(std::vector<std::string_view>& lines) {
   lines.clear();
   if (atEnd_) return false;
-  // Keep the incomplete line at the front; a line that fills the block doubles it.
-  std::memmove(block_.data(), block_.data() + begin_, end_ - begin_);
-  end_ -= begin_;
-  begin_ = 0;
-  if (end_ == block_.size()) block_.resize(2 * block_.size());
+  switchBlocks();
 
   ssize_t n;
-  do n = ::read(fd_, block_.data() + end_, block_.size() - end_);
+  do n = ::read(fd_, block_->chars.get() + end_, block_->size - end_);
   while (n < 0 && errno == EINTR);
   if (n < 0) {
     error_ = std::strerror(errno);
@@ -28,7 +38,7 @@ bool LineReader::next(std::vector<std::string_view>& lines) {
   atEnd_ = n == 0;
   end_ += static_cast<std::size_t>(n);
 
-  const char* data = block_.data();
+  const char* data = block_->chars.get();
   while (const void* newline = std::memchr(data + begin_, '\n', end_ - begin_)) {
     const auto at = static_cast<std::size_t>(static_cast<const char*>(newline) - data);
     lines.emplace_back(data + begin_, at - begin_);

@@ -1,35 +1,28 @@
 #include "tools/ovfmt/Output.h"
 
-#include <cerrno>
-#include <unistd.h>
-
 namespace Orvane::ovfmt {
-namespace {
-
-bool writeAll(int fd, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t n = ::write(fd, bytes.data(), bytes.size());
-    if (n < 0 && errno == EINTR) continue;
-    if (n <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(n));
-  }
-  return true;
-}
-
-} // namespace
 
 bool Output::writeTo(int out, int err) {
-  const std::string_view text = text_;
-  std::size_t written = 0;
-  bool ok = true;
+  GatheringWriter writer;
+  const bool wrote = queue(writer, out, err) && writer.flush();
+  clear();
+  return wrote;
+}
+
+bool Output::queue(GatheringWriter& writer, int out, int err) const {
+  const std::string_view text = text_.text();
+  std::size_t queued = 0;
   for (const ErrorLine& error : errors_) {
-    ok = ok && writeAll(out, text.substr(written, error.at - written)) && writeAll(err, error.line);
-    written = error.at;
+    if (!writer.add(out, text.substr(queued, error.at - queued)) || !writer.add(err, error.line))
+      return false;
+    queued = error.at;
   }
-  ok = ok && writeAll(out, text.substr(written));
+  return writer.add(out, text.substr(queued));
+}
+
+void Output::clear() {
   text_.clear();
   errors_.clear();
-  return ok;
 }
 
 } // namespace Orvane::ovfmt

@@ -19,21 +19,24 @@ bool RecordWalker::loadHex(std::string_view hex, std::string& error) {
   return parsed;
 }
 
-std::span<const Argument> RecordWalker::walk(std::span<const ArgumentType> types,
-                                             std::span<const unsigned char> record) {
+std::span<const Argument> RecordWalker::walkInto(std::span<const ArgumentType> types,
+                                                 std::span<const unsigned char> record,
+                                                 TextStream& out,
+                                                 std::span<const std::string_view> gaps) {
   arguments_.clear();
-  textEnds_.clear();
-  text_.clear();
+  textBounds_.clear();
   std::size_t offset = 0;
   finished_ = true;
-  for (const ArgumentType& type : types) {
+  for (std::size_t i = 0; i < types.size(); ++i) {
     const unsigned char* value = record.data() + offset;
+    if (i < gaps.size()) out.append(gaps[i]);
+    textBounds_.push_back(out.size());
     Argument& argument = arguments_.emplace_back();
-    argument.id = type.id;
+    argument.id = types[i].id;
     argument.offset = offset;
-    argument.length = type.formatter->length(value);
-    argument.consumed = type.formatter->format(value, text_.fresh());
-    textEnds_.push_back(text_.size());
+    argument.length = types[i].formatter->length(value);
+    argument.consumed = types[i].formatter->format(value, out.fresh());
+    textBounds_.push_back(out.size());
     const Fault fault = faultOf(argument, record.size());
     if (fault == Fault::InvalidLength || fault == Fault::PastEnd) {
       finished_ = false;
@@ -44,11 +47,8 @@ std::span<const Argument> RecordWalker::walk(std::span<const ArgumentType> types
   size_ = record.size();
   end_ = offset;
   // Texts are cut out only now: the stream's buffer may move while later ones print.
-  std::size_t begin = 0;
-  for (std::size_t i = 0; i < arguments_.size(); ++i) {
-    arguments_[i].text = text_.text(begin, textEnds_[i]);
-    begin = textEnds_[i];
-  }
+  for (std::size_t i = 0; i < arguments_.size(); ++i)
+    arguments_[i].text = out.text(textBounds_[2 * i], textBounds_[2 * i + 1]);
   return arguments_;
 }
 

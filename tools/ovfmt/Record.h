@@ -64,12 +64,23 @@ public:
   /// may return fewer arguments than `types`. The result and its texts stay valid until
   /// the next walk or load.
   std::span<const Argument> walk(std::span<const ArgumentType> types) {
-    return walk(types, {buffer_.data(), buffer_.size()});
+    text_.clear();
+    return walkInto(types, {buffer_.data(), buffer_.size()}, text_, {});
   }
   /// walk() over the caller's `record` in place, without guards: every byte the
   /// arguments' functions read must be inside it (as when each argument fits).
   std::span<const Argument> walk(std::span<const ArgumentType> types,
-                                 std::span<const unsigned char> record);
+                                 std::span<const unsigned char> record) {
+    text_.clear();
+    return walkInto(types, record, text_, {});
+  }
+  /// walk() printing the texts into `out`, after what it holds, each preceded by the
+  /// gap of its position (`gaps[i]` before argument i, where given). The texts view
+  /// `out` and stay valid until it changes.
+  std::span<const Argument> walk(std::span<const ArgumentType> types, TextStream& out,
+                                 std::span<const std::string_view> gaps) {
+    return walkInto(types, {buffer_.data(), buffer_.size()}, out, gaps);
+  }
 
   /// Whether the last walk formatted every type and none invalid or past the end.
   bool finished() const { return finished_; }
@@ -77,12 +88,16 @@ public:
   std::size_t leftover() const { return size_ - end_; }
 
 private:
+  std::span<const Argument> walkInto(std::span<const ArgumentType> types,
+                                     std::span<const unsigned char> record, TextStream& out,
+                                     std::span<const std::string_view> gaps);
+
   GuardedBuffer buffer_;
   TextStream text_;
   std::vector<Argument> arguments_;
-  std::vector<std::size_t> textEnds_; ///< where each argument's text ends in text_
-  std::size_t size_ = 0; ///< bytes in the record of the last walk
-  std::size_t end_ = 0;  ///< where the last argument of the last walk ended
+  std::vector<std::size_t> textBounds_; ///< where each argument's text starts and ends
+  std::size_t size_ = 0;                ///< bytes in the record of the last walk
+  std::size_t end_ = 0;                 ///< where the last argument of the last walk ended
   bool finished_ = false;
 };
 

@@ -2,80 +2,101 @@
 
 #include "tools/ovfmt/Problems.h"
 
+#include <algorithm>
+
 namespace Orvane::ovfmt {
 
 bool RecordPrinter::print(const Where& where, std::string_view idList, std::string_view hex,
                           Output& output) {
-  splitIdList(idList, ids_);
-  if (options_.layout && options_.layout->placeholders() != ids_.size())
-    return fail(where, placeholderCountProblem(options_.layout->placeholders(), ids_.size()),
-                output);
-  if (!resolve(where, output)) return false;
+  if (!resolve(where, idList, output)) return false;
   std::string hexError;
   if (!walker_.loadHex(hex, hexError)) return fail(where, hexError, output);
-
-  const auto arguments = walker_.walk(types_);
-  return options_.counts ? printCounts(where, arguments, output)
-                         : printText(where, arguments, output);
+  return options_.counts ? printCounts(where, output) : printText(where, output);
 }
 
-bool RecordPrinter::resolve(const Where& where, Output& output) {
-  types_.clear();
+bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output& output) {
+  if (const auto* known = typeLists_.find(idList)) {
+    types_ = *known;
+    return fitsTemplate(types_.size()) || templateMisfit(where, types_.size(), output);
+  }
+  splitIdList(idList, ids_);
+  if (!fitsTemplate(ids_.size())) return templateMisfit(where, ids_.size(), output);
+  resolved_.clear();
   for (std::size_t i = 0; i < ids_.size(); ++i) {
     const host::FormatterPair* formatter = formatters_.find(ids_[i]);
+    auto prefix = [&] { return argumentPrefix(i + 1, ids_.size(), ids_[i]); };
     if (!formatter)
-      return fail(where, prefix(i) + unknownIdProblem(ids_[i]) + " (ovfmt --list shows the ids)",
+      return fail(where, prefix() + unknownIdProblem(ids_[i]) + " (ovfmt --list shows the ids)",
                   output);
     if (!formatter->format || !formatter->length)
-      return fail(where, prefix(i) + missingFunctionProblem(ids_[i], *formatter), output);
-    types_.push_back({ids_[i], formatter});
+      return fail(where, prefix() + missingFunctionProblem(ids_[i], *formatter), output);
+    resolved_.push_back({ids_[i], formatter});
   }
+  typeLists_.remember(idList, resolved_);
+  types_ = resolved_;
   return true;
 }
 
-bool RecordPrinter::printCounts(const Where& where, std::span<const Argument> arguments,
-                                Output& output) {
-  std::string& text = output.text();
+bool RecordPrinter::templateMisfit(const Where& where, std::size_t count, Output& output) {
+  return fail(where, placeholderCountProblem(options_.layout->placeholders(), count), output);
+}
+
+bool RecordPrinter::printCounts(const Where& where, Output& output) {
+  const auto arguments = walker_.walk(types_);
+  TextStream& text = output.text();
   for (const Argument& argument : arguments) {
-    text += argument.id;
-    text += '\t';
-    text += std::to_string(argument.length);
-    text += '\t';
-    text += std::to_string(argument.consumed);
-    text += '\t';
-    text += argument.text;
-    text += '\n';
+    text.append(argument.id);
+    text.append('\t');
+    text.append(std::to_string(argument.length));
+    text.append('\t');
+    text.append(std::to_string(argument.consumed));
+    text.append('\t');
+    text.append(argument.text);
+    text.append('\n');
   }
   if (arguments.size() < types_.size())
     return fail(where, prefix(arguments.size()) + notReachedProblem(arguments.size()), output);
-  reportLeftover(where, arguments, output);
+  if (hasLeftover()) reportLeftover(where, arguments, output);
   return true;
 }
 
-bool RecordPrinter::printText(const Where& where, std::span<const Argument> arguments,
-                              Output& output) {
-  const std::string problem = firstFaultProblem(arguments, types_.size(), walker_.size());
-  if (!problem.empty()) return fail(where, problem, output);
-  texts_.clear();
-  for (const Argument& argument : arguments) texts_.push_back(argument.text);
-  std::string& text = output.text();
-  if (options_.layout) {
-    options_.layout->render(texts_, text);
-  } else {
-    for (std::size_t i = 0; i < texts_.size(); ++i) {
-      if (i) text += options_.separator;
-      text += texts_[i];
-    }
+bool RecordPrinter::printText(const Where& where, Output& output) {
+  // Each text goes straight into the output after its gap; a record that fails takes
+  // back what it printed.
+  TextStream& text = output.text();
+  const std::size_t start = text.size();
+  const bool gapped = options_.layout || types_.size() > 1;
+  const auto arguments =
+      walker_.walk(types_, text, gapped ? gaps() : std::span<std::string_view>());
+  const std::size_t recordSize = walker_.size();
+  const bool clean = std::all_of(arguments.begin(), arguments.end(), [&](const Argument& a) {
+    return faultOf(a, recordSize) == Fault::None;
+  });
+  if (!clean) {
+    text.truncate(start);
+    return fail(where, firstFaultProblem(arguments, types_.size(), recordSize), output);
   }
-  text += '\n';
-  reportLeftover(where, arguments, output);
+  if (options_.layout) text.append(options_.layout->literal(types_.size()));
+  text.append('\n');
+  if (hasLeftover()) reportLeftover(where, arguments, output);
   return true;
+}
+
+std::span<const std::string_view> RecordPrinter::gaps() {
+  const std::size_t count = types_.size();
+  if (gaps_.size() != count) {
+    gaps_.clear();
+    for (std::size_t i = 0; i < count; ++i)
+      gaps_.push_back(options_.layout ? options_.layout->literal(i)
+                      : i == 0        ? std::string_view()
+                                      : std::string_view(options_.separator));
+  }
+  return gaps_;
 }
 
 void RecordPrinter::reportLeftover(const Where& where, std::span<const Argument> arguments,
                                    Output& output) {
-  if (walker_.finished() && walker_.leftover() > 0)
-    fail(where, prefix(arguments.size() - 1) + leftoverProblem(walker_.leftover()), output);
+  fail(where, prefix(arguments.size() - 1) + leftoverProblem(walker_.leftover()), output);
 }
 
 bool RecordPrinter::fail(const Where& where, const std::string& problem, Output& output) {
@@ -93,7 +114,7 @@ bool RecordPrinter::fail(const Where& where, const std::string& problem, Output&
 }
 
 std::string RecordPrinter::prefix(std::size_t index) const {
-  return argumentPrefix(index + 1, ids_.size(), ids_[index]);
+  return argumentPrefix(index + 1, types_.size(), types_[index].id);
 }
 
 } // namespace Orvane::ovfmt

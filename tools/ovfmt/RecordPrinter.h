@@ -44,21 +44,36 @@ public:
   bool print(const Where& where, std::string_view idList, std::string_view hex, Output& output);
 
 private:
-  bool resolve(const Where& where, Output& output);
-  bool printCounts(const Where& where, std::span<const Argument> arguments, Output& output);
-  bool printText(const Where& where, std::span<const Argument> arguments, Output& output);
+  /// Sets types_ to the arguments of `idList`; false when the record failed.
+  bool resolve(const Where& where, std::string_view idList, Output& output);
+  /// Whether the template, if any, has one placeholder for each of `count` arguments.
+  bool fitsTemplate(std::size_t count) const {
+    return !options_.layout || options_.layout->placeholders() == count;
+  }
+  /// Reports a record of `count` arguments that does not fit the template.
+  bool templateMisfit(const Where& where, std::size_t count, Output& output);
+  /// Walks the record loaded and prints it, as the options say.
+  bool printCounts(const Where& where, Output& output);
+  bool printText(const Where& where, Output& output);
+  /// The text before each argument of the current record: the template's literals, or
+  /// the separator between arguments (none before the first).
+  std::span<const std::string_view> gaps();
+  /// Whether the walk ended before the record's last byte.
+  bool hasLeftover() const { return walker_.finished() && walker_.leftover() > 0; }
   void reportLeftover(const Where& where, std::span<const Argument> arguments, Output& output);
   /// Adds "ovfmt: WHERE: PROBLEM" as an error line; returns false for `return fail(...)`.
   bool fail(const Where& where, const std::string& problem, Output& output);
-  /// The "argument K of N (ID): " prefix of argument `index` (from 0).
+  /// The "argument K of N (ID): " prefix of argument `index` (from 0) of types_.
   std::string prefix(std::size_t index) const;
 
   const PrintOptions& options_;
   FormatterCache formatters_;
+  TypeListCache typeLists_;
   RecordWalker walker_;
-  std::vector<std::string_view> ids_;
-  std::vector<ArgumentType> types_;
-  std::vector<std::string_view> texts_;
+  std::vector<std::string_view> ids_;   ///< the ids of a list not seen before
+  std::vector<ArgumentType> resolved_;  ///< their types, as they are found
+  std::span<const ArgumentType> types_; ///< the current record's types
+  std::vector<std::string_view> gaps_;
 };
 
 } // namespace Orvane::ovfmt

@@ -22,6 +22,9 @@ public:
   /// How many "{}" the template holds: the arguments it needs.
   std::size_t placeholders() const { return literals_.size() - 1; }
 
+  /// The literal text before the i-th "{}", or after the last one for i = placeholders().
+  std::string_view literal(std::size_t i) const { return literals_[i]; }
+
   /// Appends the template to `out` with the i-th "{}" replaced by `texts[i]`.
   /// `texts` must hold exactly placeholders() texts.
   void render(std::span<const std::string_view> texts, std::string& out) const;

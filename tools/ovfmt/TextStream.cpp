@@ -2,10 +2,34 @@
 
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 namespace Orvane::ovfmt {
+namespace {
 
-TextStream::Buffer::Buffer() : chars_(256) { reset(); }
+// Copies `n` characters. Most texts a formatter inserts (a label, a number, an address)
+// are short: those are copied with a few fixed-size moves, which the compiler inlines,
+// the two of each size overlapping as far as needed, instead of a call per text.
+void copyChars(char* to, const char* from, std::size_t n) {
+  auto both = [&](auto size) {
+    std::memcpy(to, from, size);
+    std::memcpy(to + n - size, from + n - size, size);
+  };
+  if (n > 16)
+    std::memcpy(to, from, n);
+  else if (n >= 8)
+    both(std::integral_constant<std::size_t, 8>());
+  else if (n >= 4)
+    both(std::integral_constant<std::size_t, 4>());
+  else if (n >= 2)
+    both(std::integral_constant<std::size_t, 2>());
+  else if (n == 1)
+    *to = *from;
+}
+
+} // namespace
+
+TextStream::Buffer::Buffer() { truncate(0); }
 
 void TextStream::Buffer::advanceFar(std::size_t count) {
   // pbump() takes an int: a text past 2 GiB is advanced in steps.
@@ -18,9 +42,11 @@ void TextStream::Buffer::advanceFar(std::size_t count) {
 
 void TextStream::Buffer::grow(std::size_t count) {
   const std::size_t used = size();
-  chars_.resize(std::max(2 * chars_.size(), used + count));
-  setp(chars_.data(), chars_.data() + chars_.size());
-  advance(used);
+  capacity_ = std::max(2 * capacity_, used + count);
+  auto larger = std::make_unique_for_overwrite<char[]>(capacity_);
+  std::memcpy(larger.get(), chars_.get(), used);
+  chars_ = std::move(larger);
+  truncate(used);
 }
 
 TextStream::Buffer::int_type TextStream::Buffer::overflow(int_type c) {
@@ -35,7 +61,7 @@ std::streamsize TextStream::Buffer::xsputn(const char* text, std::streamsize cou
   if (count <= 0) return 0;
   const auto n = static_cast<std::size_t>(count);
   if (n > static_cast<std::size_t>(epptr() - pptr())) grow(n);
-  std::memcpy(pptr(), text, n);
+  copyChars(pptr(), text, n);
   advance(n);
   return count;
 }
@@ -43,7 +69,7 @@ std::streamsize TextStream::Buffer::xsputn(const char* text, std::streamsize cou
 TextStream::TextStream() : stream_(&buffer_) {}
 
 std::ostream& TextStream::fresh() {
-  stream_.clear();
+  if (!stream_.good()) stream_.clear();
   stream_.flags(std::ios_base::dec | std::ios_base::skipws);
   stream_.fill(' ');
   stream_.width(0);

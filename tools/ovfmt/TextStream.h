@@ -3,10 +3,10 @@
 #pragma once
 
 #include <climits>
+#include <memory>
 #include <ostream>
 #include <streambuf>
 #include <string_view>
-#include <vector>
 
 namespace Orvane::ovfmt {
 
@@ -28,11 +28,21 @@ public:
   /// The characters at [from, to) of what was printed since the last clear(); valid
   /// until the next print or clear().
   std::string_view text(std::size_t from, std::size_t to) const { return buffer_.view(from, to); }
+  /// Everything printed since the last clear(); valid until the next print or clear().
+  std::string_view text() const { return buffer_.view(0, size()); }
+
+  /// Adds `text` as it is, whatever the stream's state (width, error flags).
+  void append(std::string_view text) { buffer_.put(text); }
+  /// Adds one character as it is.
+  void append(char c) { buffer_.sputc(c); }
+  /// Forgets what was printed after the first `size` characters.
+  void truncate(std::size_t size) { buffer_.truncate(size); }
   /// Forgets everything printed; keeps the buffer's capacity.
-  void clear() { buffer_.reset(); }
+  void clear() { buffer_.truncate(0); }
 
 private:
-  // The put area is the unused capacity of `chars_`; overflow() doubles it.
+  // The put area is the unused capacity of `chars_`; overflow() doubles it. The
+  // characters are not zero-filled: only those printed are ever read.
   class Buffer : public std::streambuf {
   public:
     Buffer();
@@ -40,7 +50,13 @@ private:
     std::string_view view(std::size_t from, std::size_t to) const {
       return {pbase() + from, to - from};
     }
-    void reset() { setp(chars_.data(), chars_.data() + chars_.size()); }
+    void put(std::string_view text) {
+      xsputn(text.data(), static_cast<std::streamsize>(text.size()));
+    }
+    void truncate(std::size_t size) {
+      setp(chars_.get(), chars_.get() + capacity_);
+      advance(size);
+    }
 
   protected:
     int_type overflow(int_type c) override;
@@ -52,12 +68,15 @@ private:
     void grow(std::size_t count);
     /// Moves the put position `count` characters on.
     void advance(std::size_t count) {
-      if (count <= INT_MAX) pbump(static_cast<int>(count));
-      else advanceFar(count);
+      if (count <= INT_MAX)
+        pbump(static_cast<int>(count));
+      else
+        advanceFar(count);
     }
     void advanceFar(std::size_t count);
 
-    std::vector<char> chars_;
+    std::size_t capacity_ = 256;
+    std::unique_ptr<char[]> chars_ = std::make_unique_for_overwrite<char[]>(capacity_);
   };
 
   Buffer buffer_;

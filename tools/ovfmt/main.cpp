@@ -191,8 +191,8 @@ void listIds() {
 }
 
 // Reports output that could not be written (a full disk, a closed pipe).
-int writeFailed() {
-  std::cerr << "ovfmt: cannot write the output: " << std::strerror(errno) << "\n";
+int writeFailed(const std::string& reason) {
+  std::cerr << "ovfmt: cannot write the output: " << reason << "\n";
   return kExitValueFailed;
 }
 
@@ -204,7 +204,7 @@ int formatRecord(const Options& options) {
   ovfmt::RecordPrinter printer(options.print);
   ovfmt::Output output;
   const bool printed = printer.print({shown}, ids, hex, output);
-  if (!output.writeTo(STDOUT_FILENO, STDERR_FILENO)) return writeFailed();
+  if (!output.writeTo(STDOUT_FILENO, STDERR_FILENO)) return writeFailed(std::strerror(errno));
   return printed ? kExitOk : kExitValueFailed;
 }
 
@@ -219,7 +219,7 @@ int formatBatch(const Options& options) {
   const auto summary =
       ovfmt::formatBatch(in, name, options.print, options.jobs, STDOUT_FILENO, STDERR_FILENO);
   if (!fromStdin) close(in);
-  if (summary.writeFailed) return writeFailed();
+  if (!summary.writeError.empty()) return writeFailed(summary.writeError);
   if (!summary.readError.empty()) {
     std::cerr << "ovfmt: cannot read " << name << ": " << summary.readError << "\n";
     return kExitUsage;
