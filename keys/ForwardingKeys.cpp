@@ -6,14 +6,17 @@
 
 namespace Orvane {
 
-unsigned formatFapmask(const unsigned char* p, std::ostream& os) {
-  os << "(";
-  IdRunPrinter runs(os);
+unsigned appendFapmask(const unsigned char* p, TextRun& text) {
+  text.join("(");
+  IdRunPrinter runs(text);
   runs.visitWord(0, load<uint64_t>(p));
   runs.visitWord(64, load<uint64_t>(p + 8));
   runs.closeRun(127);
-  os << ")";
+  text.join(")");
   return lengthFapmask(p);
+}
+unsigned formatFapmask(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendFapmask>(p, os);
 }
 unsigned lengthFapmask(const unsigned char*) { return 16; }
 
@@ -26,7 +29,7 @@ unsigned lengthOutAcTypeKey(const unsigned char* p) {
 }
 
 unsigned formatOutAcKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(fapMask: ", formatFapmask, ", acFormat: ", formatU32, ", ",
+  return formatFields(p, os, "(fapMask: ", appendFapmask, ", acFormat: ", formatU32, ", ",
                       formatU32, ", ", formatU32, ", acIndex: ", formatU32, ", pool: ", formatU8,
                       ", appId: ", formatU8, ", intfId: ", formatString, ", vlanId: ", formatU16,
                       ", innerOutlif: ", formatU32, ", isL2SubIntf: ", formatBool, ")");

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -16,6 +17,8 @@ namespace Orvane {
 /// prints (). Runs cross the word boundary. Returns 16.
 ORVANE_API unsigned formatFapmask(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthFapmask(const unsigned char* p); ///< 16
+/// The append form (TextRun.h) of formatFapmask.
+unsigned appendFapmask(const unsigned char* p, TextRun& text);
 
 /// "OUTACTYPE": "(fapId: " u16 ", acIndex: " u32 ", outAcType: " u8 ")".
 ORVANE_API unsigned formatOutAcTypeKey(const unsigned char* p, std::ostream& os);

@@ -1,10 +1,11 @@
 // Printing a set of small integer ids as runs: "(0,2-4,127)".
 #pragma once
 
+#include "registry/TextRun.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstdint>
-#include <ostream>
 
 namespace Orvane {
 
@@ -13,10 +14,12 @@ namespace Orvane {
 ///
 /// The printer writes the first id of a run as soon as it is visited and the "-last"
 /// part only when the run is closed, either by a clear id or by the caller (closeRun),
-/// which names the last id itself. The surrounding brackets are the caller's.
+/// which names the last id itself. The surrounding brackets are the caller's. Ids and
+/// separators join the caller's run (TextRun::join and number), which prints them as
+/// insertions of their own would.
 class IdRunPrinter {
 public:
-  explicit IdRunPrinter(std::ostream& os) : os(os) {}
+  explicit IdRunPrinter(TextRun& text) : text(text) {}
 
   /// Visits `id`: a set id starts or lengthens a run, a clear id closes the run with
   /// `id - 1` as its last id.
@@ -24,8 +27,8 @@ public:
     if (!set) {
       closeRun(id - 1);
     } else if (runLength++ == 0) {
-      if (runsPrinted++ > 0) os << ",";
-      os << id;
+      if (runsPrinted++ > 0) text.join(",");
+      text.number(id);
     }
   }
 
@@ -52,12 +55,12 @@ public:
   /// Ends the current run: a run of two or more prints "-" and `lastId`, a run of one
   /// prints nothing more. The next set id starts a new run.
   void closeRun(unsigned lastId) {
-    if (runLength >= 2) os << "-" << lastId;
+    if (runLength >= 2) text.join("-").number(lastId);
     runLength = 0;
   }
 
 private:
-  std::ostream& os;
+  TextRun& text;
   unsigned runLength = 0;
   unsigned runsPrinted = 0;
 };

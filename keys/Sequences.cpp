@@ -89,10 +89,13 @@ unsigned lengthUnsignedSequence(const unsigned char* p) {
   return off;
 }
 
-unsigned formatIdSet(const unsigned char* p, std::ostream& os) {
+namespace {
+
+// formatIdSet's text, joined to the run.
+unsigned appendIdSet(const unsigned char* p, TextRun& text) {
   const unsigned count = p[0];
-  os << "(";
-  IdRunPrinter runs(os);
+  text.join("(");
+  IdRunPrinter runs(text);
   unsigned previousWord = 0;
   for (unsigned i = 0; i < count; ++i) {
     const unsigned char* entry = p + 1 + kIdSetEntrySize * i;
@@ -102,8 +105,14 @@ unsigned formatIdSet(const unsigned char* p, std::ostream& os) {
     previousWord = word;
   }
   if (count > 0) runs.closeRun(previousWord * kIdsPerWord + kIdsPerWord - 1);
-  os << ")";
+  text.join(")");
   return lengthIdSet(p);
+}
+
+} // namespace
+
+unsigned formatIdSet(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIdSet>(p, os);
 }
 unsigned lengthIdSet(const unsigned char* p) { return kIdSetEntrySize * p[0] + 1; }
 
