@@ -1,5 +1,6 @@
 """The orvane module beside ovfmt (OVFMT): the same texts, and the same words for errors."""
 
+import doctest
 import os
 import subprocess
 import sys
@@ -68,6 +69,8 @@ class SameAsOvfmt(unittest.TestCase):
                             stderr)
 
     def test_format_many_names_the_failing_item(self):
+        with self.assertRaisesRegex(orvane.FormatError, r"^item 0: .* PGO needs 5"):
+            orvane.format_many([("PGO", PGO[:3])])
         with self.assertRaisesRegex(orvane.FormatError, r"^item 1: value too short: 3 bytes"):
             orvane.format_many([("PGO", PGO), ("PGO", PGO[:3]), ("NOPE", b"")])
         with self.assertRaisesRegex(KeyError, 'item 2: unknown id "NOPE"'):
@@ -82,6 +85,16 @@ class SameAsOvfmt(unittest.TestCase):
         self.assertRaisesRegex(orvane.FormatError, "^value too short: 2 bytes given, PGO needs 5",
                                orvane.length, "PGO", PGO[:2])
         self.assertRaises(BufferError, orvane.format, "PGO", memoryview(PGO + PGO)[::2])
+
+    def test_documented_examples_keywords_and_batch_sizes(self):
+        examples = doctest.testmod(orvane)
+        self.assertEqual((examples.failed, examples.attempted > 0), (0, True))
+        self.assertEqual(orvane.length(id="PGO", data=PGO), 5)
+        self.assertEqual(orvane.format_record(ids="I,I", data=bytes(8), template="{}-{}"),
+                         "0.0.0.0-0.0.0.0")
+        for count in (0, 1, 1025):  # batches of 1,024: none, a part of one, one and one more
+            self.assertEqual(orvane.format_many(items=[("PGO", PGO)] * count),
+                             ["10.1.16.0/20"] * count)
 
     def test_load_errors(self):
         with self.assertRaisesRegex(OSError, "^cannot load plug-in /nowhere.so: "):
