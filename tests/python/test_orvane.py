@@ -78,6 +78,11 @@ class SameAsOvfmt(unittest.TestCase):
         with self.assertRaisesRegex(TypeError, "^item 0: expected an .id, data. pair"):
             orvane.format_many([PGO])
 
+        class BrokenPair:  # a pair whose data cannot be read: its error, not a crash
+            __len__ = lambda self: 2
+            __getitem__ = lambda self, i: "PGO" if i == 0 else 1 / 0
+        self.assertRaises(ZeroDivisionError, orvane.format_many, [BrokenPair()])
+
     def test_bytes_like_data_and_lengths(self):
         for data in (PGO, bytearray(PGO), memoryview(PGO), memoryview(b"\0" + PGO)[1:]):
             self.assertEqual(orvane.format("PGO", data), "10.1.16.0/20")
