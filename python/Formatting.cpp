@@ -1,8 +1,8 @@
 #include "python/Formatting.h"
 
+#include "host/Registry.h"
 #include "python/Errors.h"
 #include "tools/ovfmt/GuardedBuffer.h"
-#include "tools/ovfmt/IdList.h"
 #include "tools/ovfmt/Problems.h"
 
 #include <algorithm>
@@ -11,8 +11,7 @@
 namespace Orvane::python {
 
 ovfmt::ArgumentType resolve(std::string_view id) {
-  thread_local ovfmt::FormatterCache formatters;
-  const host::FormatterPair* formatter = formatters.find(id);
+  const host::FormatterPair* formatter = host::findFormatter(id);
   if (!formatter) throw UnknownIdError(ovfmt::unknownIdProblem(id));
   if (!formatter->format || !formatter->length)
     throw UnknownIdError(ovfmt::missingFunctionProblem(id, *formatter));

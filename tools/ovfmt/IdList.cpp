@@ -12,14 +12,6 @@ void splitIdList(std::string_view list, std::vector<std::string_view>& ids) {
   }
 }
 
-const host::FormatterPair* FormatterCache::find(std::string_view id) {
-  if (const auto* entry = pairs_.find(id)) return entry->value;
-  const host::FormatterPair* formatter = host::findFormatter(id);
-  if (formatter)
-    if (auto* entry = pairs_.add(id)) entry->value = formatter;
-  return formatter;
-}
-
 void TypeListCache::remember(std::string_view idList, std::span<const ArgumentType> types) {
   auto* entry = lists_.add(idList);
   if (!entry) return;

@@ -16,22 +16,11 @@ namespace Orvane::ovfmt {
 /// formatter is registered under.
 void splitIdList(std::string_view list, std::vector<std::string_view>& ids);
 
-/// host::findFormatter() with the ids found so far remembered, so that a trace of
-/// millions of lines looks each id up in the host once. The registry never removes or
-/// moves a pair, so a remembered pointer stays valid; an id not found is asked again,
-/// since a plug-in loaded later may register it. One cache serves one thread.
-class FormatterCache {
-public:
-  /// The pair registered for `id`, or nullptr.
-  const host::FormatterPair* find(std::string_view id);
-
-private:
-  StringTable<const host::FormatterPair*> pairs_;
-};
-
 /// The argument types of whole id lists, so that a list seen before is neither split nor
-/// looked up id by id again. Only lists whose every id resolved are remembered, for the
-/// reason FormatterCache gives. One cache serves one thread.
+/// looked up id by id again. Only lists whose every id resolved are remembered: a
+/// plug-in loaded later may register an id that is unknown now. The registry never
+/// removes or moves a pair, so a remembered pointer stays valid. One cache serves one
+/// thread.
 class TypeListCache {
 public:
   /// The types remembered for `idList`, or nullptr.

@@ -23,7 +23,7 @@ bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output&
   if (!fitsTemplate(ids_.size())) return templateMisfit(where, ids_.size(), output);
   resolved_.clear();
   for (std::size_t i = 0; i < ids_.size(); ++i) {
-    const host::FormatterPair* formatter = formatters_.find(ids_[i]);
+    const host::FormatterPair* formatter = host::findFormatter(ids_[i]);
     auto prefix = [&] { return argumentPrefix(i + 1, ids_.size(), ids_[i]); };
     if (!formatter)
       return fail(where, prefix() + unknownIdProblem(ids_[i]) + " (ovfmt --list shows the ids)",

@@ -67,7 +67,6 @@ private:
   std::string prefix(std::size_t index) const;
 
   const PrintOptions& options_;
-  FormatterCache formatters_;
   TypeListCache typeLists_;
   RecordWalker walker_;
   std::vector<std::string_view> ids_;   ///< the ids of a list not seen before
