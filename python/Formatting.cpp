@@ -2,32 +2,28 @@
 
 #include "host/Registry.h"
 #include "python/Errors.h"
-#include "tools/ovfmt/GuardedBuffer.h"
 #include "tools/ovfmt/Problems.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace Orvane::python {
 
 ovfmt::ArgumentType resolve(std::string_view id) {
   const host::FormatterPair* formatter = host::findFormatter(id);
-  if (!formatter) throw UnknownIdError(ovfmt::unknownIdProblem(id));
-  if (!formatter->format || !formatter->length)
-    throw UnknownIdError(ovfmt::missingFunctionProblem(id, *formatter));
+  if (std::string problem = ovfmt::formatterProblem(id, formatter); !problem.empty())
+    throw UnknownIdError(problem);
   return {id, formatter};
 }
 
 unsigned measure(const ovfmt::ArgumentType& type, std::span<const unsigned char> bytes) {
-  // Its own guarded buffer: a short value's length function may read past the bytes.
-  thread_local ovfmt::GuardedBuffer buffer;
-  std::copy(bytes.begin(), bytes.end(), buffer.prepare(bytes.size()));
-  buffer.setSize(bytes.size());
+  // In the guarded buffer: a short value's length function may read past the bytes.
+  ovfmt::RecordWalker& walker = threadWalker();
+  walker.load(bytes);
   ovfmt::Argument value;
   value.id = type.id;
   // Nothing is formatted: the length stands in for what was consumed, so that only the
   // length's own faults (invalid, past the end) show.
-  value.length = value.consumed = type.formatter->length(buffer.data());
+  value.length = value.consumed = type.formatter->length(walker.data());
   const ovfmt::Fault fault = ovfmt::faultOf(value, bytes.size());
   if (fault != ovfmt::Fault::None)
     throw FormatError(ovfmt::faultProblem(value, fault, bytes.size()));
@@ -50,10 +46,7 @@ std::vector<std::string> formatRecord(std::span<const ovfmt::ArgumentType> types
 std::string walkProblem(const ovfmt::RecordWalker& walker,
                         std::span<const ovfmt::Argument> arguments, std::size_t count) {
   std::string problem = ovfmt::firstFaultProblem(arguments, count, walker.size());
-  if (problem.empty() && walker.finished() && walker.leftover() > 0)
-    problem = ovfmt::argumentPrefix(count, count, arguments.back().id) +
-              ovfmt::leftoverProblem(walker.leftover());
-  return problem;
+  return problem.empty() ? ovfmt::leftoverProblem(walker, arguments) : problem;
 }
 
 ovfmt::RecordWalker& threadWalker() {

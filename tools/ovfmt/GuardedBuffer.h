@@ -37,6 +37,7 @@ public:
 
   /// The first byte after the guard before: where the current bytes start.
   unsigned char* data() { return bytes_.data() + kGuardBefore; }
+  const unsigned char* data() const { return bytes_.data() + kGuardBefore; }
   /// How many bytes are current (as given to setSize()).
   std::size_t size() const { return size_; }
 

@@ -5,7 +5,11 @@
 namespace Orvane::ovfmt {
 namespace {
 
-std::string bytesWord(std::size_t n) { return std::to_string(n) + (n == 1 ? " byte" : " bytes"); }
+std::string plural(std::size_t n, const char* one, const char* many) {
+  return std::to_string(n) + " " + (n == 1 ? one : many);
+}
+
+std::string bytesWord(std::size_t n) { return plural(n, "byte", "bytes"); }
 
 } // namespace
 
@@ -32,10 +36,10 @@ std::string argumentPrefix(std::size_t position, std::size_t count, std::string_
          printable(id) + "): ";
 }
 
-std::string unknownIdProblem(std::string_view id) { return "unknown id \"" + printable(id) + "\""; }
-
-std::string missingFunctionProblem(std::string_view id, const host::FormatterPair& formatter) {
-  return "id \"" + printable(id) + "\" has no " + (formatter.format ? "length" : "format") +
+std::string formatterProblem(std::string_view id, const host::FormatterPair* formatter) {
+  if (!formatter) return "unknown id \"" + printable(id) + "\"";
+  if (formatter->format && formatter->length) return {};
+  return "id \"" + printable(id) + "\" has no " + (formatter->format ? "length" : "format") +
          " function registered";
 }
 
@@ -67,12 +71,19 @@ std::string firstFaultProblem(std::span<const Argument> arguments, std::size_t c
   return {};
 }
 
-std::string leftoverProblem(std::size_t bytes) {
-  return bytesWord(bytes) + " after the value not consumed";
+std::string leftoverProblem(const RecordWalker& walker, std::span<const Argument> arguments) {
+  if (!walker.finished() || walker.leftover() == 0) return {};
+  return argumentPrefix(arguments.size(), arguments.size(), arguments.back().id) +
+         bytesWord(walker.leftover()) + " after the value not consumed";
 }
 
 std::string notReachedProblem(std::size_t stoppedAt) {
   return "not formatted: the walk stopped at argument " + std::to_string(stoppedAt);
+}
+
+std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments) {
+  return "the template has " + std::to_string(placeholders) + " '{}' but the record has " +
+         plural(arguments, "argument", "arguments");
 }
 
 } // namespace Orvane::ovfmt

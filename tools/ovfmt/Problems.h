@@ -21,11 +21,10 @@ std::string printable(std::string_view text);
 /// `count` is 1.
 std::string argumentPrefix(std::size_t position, std::size_t count, std::string_view id);
 
-/// `unknown id "ID"`.
-std::string unknownIdProblem(std::string_view id);
-
-/// `id "ID" has no length function registered` (or "format", whichever is missing).
-std::string missingFunctionProblem(std::string_view id, const host::FormatterPair& formatter);
+/// Why `formatter`, what the registry found for `id`, cannot format it: `unknown id
+/// "ID"` when it is null, `id "ID" has no length function registered` (or "format",
+/// whichever is missing); empty when both functions are there.
+std::string formatterProblem(std::string_view id, const host::FormatterPair* formatter);
 
 /// What `fault` of `argument` means, in a record of `recordSize` bytes. A value too
 /// short says how many bytes were "given" to the first argument and "left" for a later
@@ -37,10 +36,16 @@ std::string faultProblem(const Argument& argument, Fault fault, std::size_t reco
 std::string firstFaultProblem(std::span<const Argument> arguments, std::size_t count,
                               std::size_t recordSize);
 
-/// `N bytes after the value not consumed`.
-std::string leftoverProblem(std::size_t bytes);
+/// `N bytes after the value not consumed`, prefixed as the last of `arguments`, when
+/// `walker`'s last walk (which returned them) formatted every argument and left bytes
+/// after the last; empty otherwise.
+std::string leftoverProblem(const RecordWalker& walker, std::span<const Argument> arguments);
 
 /// Why an argument got no text: the walk stopped at argument `stoppedAt` (from 1).
 std::string notReachedProblem(std::size_t stoppedAt);
+
+/// The usage problem of a template whose placeholders do not match the arguments, naming
+/// both counts.
+std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments);
 
 } // namespace Orvane::ovfmt

@@ -58,6 +58,8 @@ public:
   bool loadHex(std::string_view hex, std::string& error);
   /// Bytes in the current record.
   std::size_t size() const { return buffer_.size(); }
+  /// The current record's first byte, between the zero guards.
+  const unsigned char* data() const { return buffer_.data(); }
 
   /// Formats `types` in order over the record placed by load() or loadHex(). The walk
   /// stops after an argument whose length is invalid or runs past the bytes left, so it

@@ -15,21 +15,20 @@ bool RecordPrinter::print(const Where& where, std::string_view idList, std::stri
 }
 
 bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output& output) {
-  if (const auto* known = typeLists_.find(idList)) {
+  if (const auto* known = typeLists_.find(idList)) { // remembered only when it fit
     types_ = *known;
-    return fitsTemplate(types_.size()) || templateMisfit(where, types_.size(), output);
+    return true;
   }
   splitIdList(idList, ids_);
   if (!fitsTemplate(ids_.size())) return templateMisfit(where, ids_.size(), output);
   resolved_.clear();
   for (std::size_t i = 0; i < ids_.size(); ++i) {
     const host::FormatterPair* formatter = host::findFormatter(ids_[i]);
-    auto prefix = [&] { return argumentPrefix(i + 1, ids_.size(), ids_[i]); };
-    if (!formatter)
-      return fail(where, prefix() + unknownIdProblem(ids_[i]) + " (ovfmt --list shows the ids)",
+    if (std::string problem = formatterProblem(ids_[i], formatter); !problem.empty())
+      return fail(where,
+                  argumentPrefix(i + 1, ids_.size(), ids_[i]) + problem +
+                      (formatter ? "" : " (ovfmt --list shows the ids)"),
                   output);
-    if (!formatter->format || !formatter->length)
-      return fail(where, prefix() + missingFunctionProblem(ids_[i], *formatter), output);
     resolved_.push_back({ids_[i], formatter});
   }
   typeLists_.remember(idList, resolved_);
@@ -56,7 +55,7 @@ bool RecordPrinter::printCounts(const Where& where, Output& output) {
   }
   if (arguments.size() < types_.size())
     return fail(where, prefix(arguments.size()) + notReachedProblem(arguments.size()), output);
-  if (hasLeftover()) reportLeftover(where, arguments, output);
+  reportLeftover(where, arguments, output);
   return true;
 }
 
@@ -78,7 +77,7 @@ bool RecordPrinter::printText(const Where& where, Output& output) {
   }
   if (options_.layout) text.append(options_.layout->literal(types_.size()));
   text.append('\n');
-  if (hasLeftover()) reportLeftover(where, arguments, output);
+  reportLeftover(where, arguments, output);
   return true;
 }
 
@@ -96,7 +95,8 @@ std::span<const std::string_view> RecordPrinter::gaps() {
 
 void RecordPrinter::reportLeftover(const Where& where, std::span<const Argument> arguments,
                                    Output& output) {
-  fail(where, prefix(arguments.size() - 1) + leftoverProblem(walker_.leftover()), output);
+  if (std::string problem = leftoverProblem(walker_, arguments); !problem.empty())
+    fail(where, problem, output);
 }
 
 bool RecordPrinter::fail(const Where& where, const std::string& problem, Output& output) {

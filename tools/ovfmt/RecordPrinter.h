@@ -58,8 +58,7 @@ private:
   /// The text before each argument of the current record: the template's literals, or
   /// the separator between arguments (none before the first).
   std::span<const std::string_view> gaps();
-  /// Whether the walk ended before the record's last byte.
-  bool hasLeftover() const { return walker_.finished() && walker_.leftover() > 0; }
+  /// Reports the bytes a finished walk left after the record's last argument, if any.
   void reportLeftover(const Where& where, std::span<const Argument> arguments, Output& output);
   /// Adds "ovfmt: WHERE: PROBLEM" as an error line; returns false for `return fail(...)`.
   bool fail(const Where& where, const std::string& problem, Output& output);

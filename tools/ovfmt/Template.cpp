@@ -1,14 +1,6 @@
 #include "tools/ovfmt/Template.h"
 
 namespace Orvane::ovfmt {
-namespace {
-
-std::string plural(std::size_t n, const char* one, const char* many) {
-  return std::to_string(n) + " " + (n == 1 ? one : many);
-}
-
-} // namespace
-
 std::optional<Template> Template::parse(std::string_view text, std::string& error) {
   Template parsed;
   parsed.literals_.emplace_back();
@@ -38,11 +30,6 @@ void Template::render(std::span<const std::string_view> texts, std::string& out)
     out += texts[i];
     out += literals_[i + 1];
   }
-}
-
-std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments) {
-  return "the template has " + std::to_string(placeholders) + " '{}' but the record has " +
-         plural(arguments, "argument", "arguments");
 }
 
 } // namespace Orvane::ovfmt

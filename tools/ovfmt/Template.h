@@ -33,8 +33,4 @@ private:
   std::vector<std::string> literals_; ///< the text around the placeholders, braces unescaped
 };
 
-/// The usage problem of a template whose placeholders do not match the arguments, naming
-/// both counts.
-std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments);
-
 } // namespace Orvane::ovfmt
