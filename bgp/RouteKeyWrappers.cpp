@@ -45,12 +45,6 @@ unsigned lengthRecord(const KeyRecord& record, const unsigned char* p) {
 
 } // namespace
 
-void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, std::ostream& os) {
-  TextRun text(os);
-  printRouteKeyFrameOpening(afi, safi, text);
-  text.flush();
-}
-
 void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, TextRun& text) {
   text << " RouteKey<(" << afiName(afi) << "/" << safiName(safi) << ") (";
 }

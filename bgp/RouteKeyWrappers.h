@@ -17,10 +17,9 @@
 
 namespace Orvane {
 
-/// Writes the opening that the route key frames share: " RouteKey<(" AFI name "/"
-/// SAFI name ") (", the names as formatAfi and formatSafi write them.
-void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, std::ostream& os);
-/// The same opening, left pending in `text` for the text that follows it.
+/// Adds the opening that the route key frames share to `text`, pending for the text that
+/// follows it: " RouteKey<(" AFI name "/" SAFI name ") (", the names as formatAfi and
+/// formatSafi write them.
 void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, TextRun& text);
 
 /// "BRK": the stored AFI and SAFI choose the key's layout; the NLRI type is only

@@ -20,10 +20,7 @@ std::size_t hashId(std::string_view id) {
 } // namespace
 
 FormatterTable::Slots::Slots(std::size_t capacity)
-    : mask(capacity - 1), slot(new std::atomic<const Entry*>[capacity]) {
-  for (std::size_t i = 0; i < capacity; ++i)
-    slot[i].store(nullptr, std::memory_order_relaxed);
-}
+    : mask(capacity - 1), slot(std::make_unique<std::atomic<const Entry*>[]>(capacity)) {}
 
 FormatterTable::FormatterTable() {
   generations_.push_back(std::make_unique<Slots>(kInitialCapacity));

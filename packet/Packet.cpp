@@ -4,7 +4,6 @@
 #include "registry/Bytes.h"
 #include "registry/HexDigits.h"
 #include "registry/HostInterface.h"
-#include "registry/TextRun.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -21,10 +20,7 @@ constexpr unsigned kPriorityShift = 13;
 void printVlanTag(uint16_t tpid, uint16_t tci, std::ostream& os) {
   os << "(tpid 0x" << std::hex << tpid << std::dec << " vlan " << (tci & kVlanIdMask);
   if (tci >> kPriorityShift) os << " p " << (tci >> kPriorityShift);
-  TextRun text(os);
-  if (tci & kCfiBit) text << " CFI";
-  text << ") ";
-  text.flush();
+  os << (tci & kCfiBit ? " CFI) " : ") ");
 }
 
 // Two lowercase digits a byte, written at once: a padded number insertion per byte

@@ -56,13 +56,6 @@ void formatParts(const unsigned char* p, TextRun& text, unsigned& off, const Par
   if constexpr (sizeof...(Rest) > 0) formatParts(p, text, off, rest...);
 }
 
-inline void formatPart(const unsigned char*, std::ostream& os, unsigned&, const char* literal) {
-  os << literal;
-}
-inline void formatPart(const unsigned char* p, std::ostream& os, unsigned& off, FormatPtr field) {
-  off += field(at(p, off), os);
-}
-
 inline void measurePart(const unsigned char* p, unsigned& off, LengthPtr field) {
   off += field(at(p, off));
 }
@@ -78,13 +71,9 @@ inline void measurePart(const unsigned char*, unsigned& off, unsigned fixedSize)
 template <class... Parts>
 unsigned formatFields(const unsigned char* p, std::ostream& os, const Parts&... parts) {
   unsigned off = 0;
-  if constexpr ((std::is_convertible_v<const Parts&, AppendPtr> || ...)) {
-    TextRun text(os);
-    detail::formatParts(p, text, off, parts...);
-    text.flush();
-  } else { // nothing could join: every literal is an insertion of its own anyway
-    (detail::formatPart(p, os, off, parts), ...);
-  }
+  TextRun text(os);
+  detail::formatParts(p, text, off, parts...);
+  text.flush();
   return off;
 }
 

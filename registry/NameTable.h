@@ -24,10 +24,4 @@ inline const char* nameOr(const NameTable& table, unsigned code, const char* fal
   return it != table.end() ? it->second : fallback;
 }
 
-/// Writes the name of `code`, or `fallback` when the table has no entry.
-inline void printNameOr(std::ostream& os, const NameTable& table, unsigned code,
-                        const char* fallback) {
-  os << nameOr(table, code, fallback);
-}
-
 } // namespace Orvane
