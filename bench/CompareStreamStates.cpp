@@ -18,6 +18,8 @@
 // else differed.
 #include "bench/TraceValues.h"
 #include "registry/FormatMap.h"
+#include "tests/support/RandomValues.h"
+#include "tools/ovfmt/GuardedBuffer.h"
 
 #include <dlfcn.h>
 #include <functional>
@@ -124,27 +126,6 @@ Outcome format(const FormatFn& fn, const unsigned char* value, const StreamState
   return {buffer.text(), count, os.flags(), os.width(), os.fill(), os.rdstate()};
 }
 
-// Values in a zero-filled buffer with ovfmt's guards around them.
-class Placed {
-public:
-  explicit Placed(const std::vector<unsigned char>& bytes) : buffer_(64 + bytes.size() + 8192) {
-    std::copy(bytes.begin(), bytes.end(), buffer_.begin() + 64);
-  }
-  const unsigned char* value() const { return buffer_.data() + 64; }
-
-private:
-  std::vector<unsigned char> buffer_;
-};
-
-std::vector<unsigned char> randomValue(std::mt19937& rng) {
-  std::uniform_int_distribution<int> size(0, 320), byte(0, 255), small(0, 8);
-  std::vector<unsigned char> value(size(rng));
-  const bool smallHead = rng() & 1;
-  for (std::size_t i = 0; i < value.size(); ++i)
-    value[i] = static_cast<unsigned char>(smallHead && i < 8 ? small(rng) : byte(rng));
-  return value;
-}
-
 std::string hexOf(const std::vector<unsigned char>& bytes) {
   std::ostringstream hex;
   hex << std::hex << std::setfill('0');
@@ -158,9 +139,12 @@ struct Tally {
 
 void compare(const std::string& id, const std::vector<unsigned char>& bytes, const FormatFn& old,
              const FormatFn& now, const StreamState& state, Tally& tally) {
-  const Placed placed(bytes);
-  const Outcome before = format(old, placed.value(), state),
-                after = format(now, placed.value(), state);
+  // Between zero guards, as ovfmt places values.
+  static ovfmt::GuardedBuffer placed;
+  std::copy(bytes.begin(), bytes.end(), placed.prepare(bytes.size()));
+  placed.setSize(bytes.size());
+  const Outcome before = format(old, placed.data(), state),
+                after = format(now, placed.data(), state);
   ++tally.compared;
   if (before == after) return;
   Outcome withoutFailbit = before;
@@ -199,7 +183,7 @@ int main(int argc, char** argv) try {
       for (const auto& value : demo)
         if (value.id == id) compare(id, value.bytes, oldPair.first, newPair.first, state, tally);
       for (int i = 0; i < perId; ++i)
-        compare(id, randomValue(rng), oldPair.first, newPair.first, state, tally);
+        compare(id, test::randomValue(rng), oldPair.first, newPair.first, state, tally);
     }
     std::cout << state.name << ": " << tally.compared << " compared, " << tally.differed
               << " differed, " << tally.failbitOnly << " without a later failbit\n";

@@ -13,8 +13,17 @@ any slice of a round's length covers every id.
 import argparse
 import os
 import random
+import subprocess
 import sys
 from collections import defaultdict
+
+def plugin_ids(ovfmt):
+    """The plug-in's ids: ovfmt --list prints them before a blank line and the host's
+    base types."""
+    listed = subprocess.run([str(ovfmt), "--list"], check=True, text=True,
+                            capture_output=True).stdout
+    return listed.split("\n\n")[0].split()
+
 
 # Category name, weight of each of its ids per round, and the ids.
 CATEGORIES = [

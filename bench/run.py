@@ -51,12 +51,6 @@ def timed(command):
     return {"wall": wall, "cpu": usage.ru_utime + usage.ru_stime}
 
 
-def plugin_ids(build):
-    """The plug-in's ids: ovfmt --list prints them before a blank line and the host's
-    base types."""
-    return run([str(build / "bin/ovfmt"), "--list"]).split("\n\n")[0].split()
-
-
 def conditions():
     """What the figures were measured on."""
     cpu = next((line.split(":", 1)[1].strip() for line in open("/proc/cpuinfo")
@@ -198,7 +192,7 @@ def main():
     out.mkdir(parents=True, exist_ok=True)
     trace = out / "trace.txt"
     results = {"conditions": conditions(),
-               "ids": plugin_ids(args.build)}
+               "ids": gen_trace.plugin_ids(args.build / "bin/ovfmt")}
     print(f"run.py: {len(results['ids'])} ids; writing {TRACE_LINES} lines to {trace}")
     gen_trace.write_trace(args.values, trace, TRACE_LINES)
     print("run.py: format_bench (per id and mixed corpus)")

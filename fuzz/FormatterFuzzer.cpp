@@ -36,6 +36,7 @@
 #include "host/BaseTypes.h"
 #include "host/Registry.h"
 #include "registry/FormatMap.h"
+#include "tools/ovfmt/GuardedBuffer.h"
 #include "tools/ovfmt/Record.h"
 
 #include <algorithm>
@@ -129,7 +130,7 @@ void formatInvalid(const Target& t, const std::vector<unsigned char>& padded, st
   expectSame(t, kInvalidLength, t.format(value, os), value);
 }
 
-constexpr std::size_t kPadBefore = 64, kPadAfter = 8192;
+constexpr std::size_t kPadBefore = ovfmt::kGuardBefore, kPadAfter = ovfmt::kGuardAfter;
 // Longest zero extension tried for an input shorter than its length.
 constexpr unsigned kMaxExtended = 4096;
 

@@ -1,4 +1,4 @@
-// Base formatters and the plug-in's joined text in any stream state; lookups while registering.
+// Base formatters and the plug-in's joined text in any stream state.
 #include "bgp/NextHop.h"
 #include "host/Registry.h"
 #include "mpls/Label.h"
@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
-#include <thread>
 
 namespace Orvane::test {
 namespace {
@@ -51,24 +50,6 @@ TEST(JoinedText, PrintsWhatSeparateInsertionsWould) {
     expected << "10.0.0.1, routerMac:001c.73aa.bbcc> (L3-vrfId:" << 2u << ")";
     EXPECT_EQ(actual.str(), expected.str());
   }
-}
-
-TEST(Registry, LookupsWhileEnoughIdsToGrowTheTableRegister) {
-  auto id = [](int i) { return std::to_string(i % 400).append("T"); };
-  std::thread reader([&] {
-    for (int i = 0; i < 400000; i += 7) {
-      const auto* pair = host::findFormatter(id(i));
-      EXPECT_TRUE(!pair || (pair->format && (!pair->length || pair->length(nullptr) == 1)));
-    }
-  });
-  for (int i = 0; i < 400; ++i) {
-    MessageFormatter::addNewFormattersById(id(i), formatU8);
-    MessageFormatter::addNewLengthById(id(i), lengthU8);
-    MessageFormatter::addNewFormattersById(id(i), formatU16); // the first stays
-  }
-  reader.join();
-  for (int i = 0; i < 400; ++i)
-    EXPECT_EQ(*host::findFormatter(id(i))->format.target<FormatPtr>(), &formatU8) << i;
 }
 
 } // namespace

@@ -1,7 +1,9 @@
-// Formatting every id from several threads at once, each on its own stream. This is a
-// test program of its own so that the threads start before any lazily built table
-// exists: the first calls race to build them.
+// Formatting every id from several threads at once, each on its own stream, and the
+// host's lookups while ids register. This is a test program of its own so that the
+// threads start before any lazily built table exists: the first calls race to build them.
+#include "host/Registry.h"
 #include "registry/FormatMap.h"
+#include "registry/HostInterface.h"
 #include "tools/ovfmt/Decode.h"
 #include "tools/ovfmt/Hex.h"
 
@@ -61,6 +63,26 @@ TEST(Concurrency, EveryIdFromSeveralThreadsGivesTheSameText) {
 
   const auto expected = formatAll(samples, kRounds);
   for (int t = 0; t < kThreads; ++t) EXPECT_EQ(results[t], expected) << "thread " << t;
+}
+
+// Here, not beside the other host tests: the ids it registers would reach every test
+// of a program that compares the registry with the documented ids.
+TEST(Registry, LookupsWhileEnoughIdsToGrowTheTableRegister) {
+  auto id = [](int i) { return std::to_string(i % 400).append("T"); };
+  std::thread reader([&] {
+    for (int i = 0; i < 400000; i += 7) {
+      const auto* pair = host::findFormatter(id(i));
+      EXPECT_TRUE(!pair || (pair->format && (!pair->length || pair->length(nullptr) == 1)));
+    }
+  });
+  for (int i = 0; i < 400; ++i) {
+    MessageFormatter::addNewFormattersById(id(i), formatU8);
+    MessageFormatter::addNewLengthById(id(i), lengthU8);
+    MessageFormatter::addNewFormattersById(id(i), formatU16); // the first stays
+  }
+  reader.join();
+  for (int i = 0; i < 400; ++i)
+    EXPECT_EQ(*host::findFormatter(id(i))->format.target<FormatPtr>(), &formatU8) << i;
 }
 
 } // namespace

@@ -21,17 +21,11 @@ def ids_of(path):
     return [line.split(maxsplit=1)[0] for line in Path(path).read_text().splitlines()]
 
 
-def registered_ids():
-    listed = subprocess.run([os.environ["OVFMT"], "--list"], check=True, text=True,
-                            capture_output=True).stdout
-    return listed.split("\n\n")[0].split()  # the plug-in ids come before the base types
-
-
 class FormatBenchTest(unittest.TestCase):
     def test_every_registered_id_has_a_benchmark_and_a_floor(self):
         listed = subprocess.run([os.environ["FORMAT_BENCH"], "--benchmark_list_tests"],
                                 check=True, text=True, capture_output=True).stdout.split()
-        expected = [f"{kind}/{i}" for i in registered_ids() for kind in ("format", "floor")]
+        expected = [f"{kind}/{i}" for i in gen_trace.plugin_ids(os.environ["OVFMT"]) for kind in ("format", "floor")]
         self.assertEqual(listed, expected)
 
 
@@ -44,7 +38,7 @@ class GenTraceTest(unittest.TestCase):
         self.dir.cleanup()
 
     def test_demo_trace_decodes_and_a_round_covers_every_registered_id(self):
-        registered = registered_ids()
+        registered = gen_trace.plugin_ids(os.environ["OVFMT"])
         round_length = sum(gen_trace.category_of(i)[1] for i in registered)
         gen_trace.write_trace(os.environ["DEMO"], self.trace, 2 * round_length)
 
