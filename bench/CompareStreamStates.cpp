@@ -17,9 +17,9 @@
 // where the later ones added failbit. Prints a line per state and exits 1 when anything
 // else differed.
 #include "bench/TraceValues.h"
+#include "decoding/GuardedBuffer.h"
 #include "registry/FormatMap.h"
 #include "tests/support/RandomValues.h"
-#include "tools/ovfmt/GuardedBuffer.h"
 
 #include <dlfcn.h>
 #include <functional>
@@ -140,7 +140,7 @@ struct Tally {
 void compare(const std::string& id, const std::vector<unsigned char>& bytes, const FormatFn& old,
              const FormatFn& now, const StreamState& state, Tally& tally) {
   // Between zero guards, as ovfmt places values.
-  static ovfmt::GuardedBuffer placed;
+  static decoding::GuardedBuffer placed;
   std::copy(bytes.begin(), bytes.end(), placed.prepare(bytes.size()));
   placed.setSize(bytes.size());
   const Outcome before = format(old, placed.data(), state),

@@ -1,7 +1,7 @@
 #include "bench/TraceValues.h"
 
+#include "decoding/Decode.h"
 #include "tools/ovfmt/BatchLine.h"
-#include "tools/ovfmt/Decode.h"
 #include "tools/ovfmt/Hex.h"
 
 #include <fstream>
@@ -19,7 +19,7 @@ const host::FormatterPair& registeredPair(const std::string& id) {
 
 // What the value prints, checked the way ovfmt checks it.
 std::string cleanText(const TraceValue& value, const host::FormatterPair& pair) {
-  const auto decoded = ovfmt::decodeValue(pair, value.bytes);
+  const auto decoded = decoding::decodeValue(pair, value.bytes);
   if (decoded.length != value.bytes.size() || decoded.consumed != decoded.length)
     throw std::runtime_error("id " + value.id + ": a value does not format cleanly");
   return decoded.text;
@@ -45,11 +45,11 @@ std::vector<TraceValue> readTraceValues(const std::string& path, std::size_t lim
 }
 
 ValueArena::ValueArena(const std::vector<TraceValue>& values) {
-  std::size_t size = ovfmt::kGuardBefore + ovfmt::kGuardAfter;
+  std::size_t size = decoding::kGuardBefore + decoding::kGuardAfter;
   for (const auto& value : values) size += value.bytes.size();
   buffer_.assign(size, 0);
 
-  unsigned char* next = buffer_.data() + ovfmt::kGuardBefore;
+  unsigned char* next = buffer_.data() + decoding::kGuardBefore;
   for (const auto& value : values) {
     const auto& pair = registeredPair(value.id);
     placed_.push_back({value.id, &pair, next, cleanText(value, pair)});

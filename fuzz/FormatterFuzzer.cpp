@@ -33,11 +33,11 @@
 // place in a heap block of exactly their bytes, and must give the same lengths, counts
 // and texts. Ids with guard areas above are left out of records: they read outside their
 // own length.
+#include "decoding/GuardedBuffer.h"
+#include "decoding/Record.h"
 #include "host/BaseTypes.h"
 #include "host/Registry.h"
 #include "registry/FormatMap.h"
-#include "tools/ovfmt/GuardedBuffer.h"
-#include "tools/ovfmt/Record.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -130,7 +130,7 @@ void formatInvalid(const Target& t, const std::vector<unsigned char>& padded, st
   expectSame(t, kInvalidLength, t.format(value, os), value);
 }
 
-constexpr std::size_t kPadBefore = ovfmt::kGuardBefore, kPadAfter = ovfmt::kGuardAfter;
+constexpr std::size_t kPadBefore = decoding::kGuardBefore, kPadAfter = decoding::kGuardAfter;
 // Longest zero extension tried for an input shorter than its length.
 constexpr unsigned kMaxExtended = 4096;
 
@@ -168,13 +168,13 @@ void fuzzRecord(const unsigned char* data, std::size_t size) {
   if (size == 0) return;
   const std::size_t count = 1 + data[0] % 8;
   if (size < 1 + count) return;
-  std::vector<ovfmt::ArgumentType> types;
+  std::vector<decoding::ArgumentType> types;
   for (std::size_t i = 0; i < count; ++i) {
     const host::FormatterPair* pair = pairs[data[1 + i] % pairs.size()];
     if (!pair) return;
     types.push_back({"", pair});
   }
-  static ovfmt::RecordWalker guarded, exact;
+  static decoding::RecordWalker guarded, exact;
   guarded.load({data + 1 + count, size - 1 - count});
   const auto arguments = guarded.walk(types);
   const std::size_t fit = arguments.size() - (guarded.finished() ? 0 : 1);

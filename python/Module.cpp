@@ -1,13 +1,13 @@
 // The `orvane` Python module: the formatters of the loaded plug-ins, reached through the
 // host the way ovfmt reaches them. Python objects are read and made here, with the GIL
 // held; formatting itself (Formatting.h, ValueBatch.h) runs with the GIL released.
+#include "decoding/IdList.h"
+#include "decoding/Problems.h"
 #include "host/Registry.h"
 #include "python/Errors.h"
 #include "python/Formatting.h"
 #include "python/Plugins.h"
 #include "python/ValueBatch.h"
-#include "tools/ovfmt/IdList.h"
-#include "tools/ovfmt/Problems.h"
 
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
@@ -51,7 +51,7 @@ py::str toStr(std::string_view text) {
 
 /// resolve() with `where()` put before the problem of an id it cannot resolve (built
 /// only then: most ids resolve).
-template <class Where> ovfmt::ArgumentType resolveAt(std::string_view id, const Where& where) {
+template <class Where> decoding::ArgumentType resolveAt(std::string_view id, const Where& where) {
   try {
     return resolve(id);
   } catch (const UnknownIdError& error) {
@@ -70,14 +70,14 @@ std::vector<std::string> ids() {
 
 unsigned length(std::string_view id, const py::buffer& data) {
   ensurePluginLoaded();
-  const ovfmt::ArgumentType type = resolve(id);
+  const decoding::ArgumentType type = resolve(id);
   // One call of a length function: less than handing the GIL over would cost.
   return measure(type, Bytes(data).span());
 }
 
 py::str format(std::string_view id, const py::buffer& data) {
   ensurePluginLoaded();
-  const ovfmt::ArgumentType type = resolve(id);
+  const decoding::ArgumentType type = resolve(id);
   const Bytes bytes(data);
   std::vector<std::string> texts;
   {
@@ -94,16 +94,16 @@ py::object formatRecordOf(const IdList& list, const py::buffer& data,
   ensurePluginLoaded();
   std::vector<std::string_view> ids;
   if (const auto* text = std::get_if<std::string>(&list))
-    ovfmt::splitIdList(*text, ids);
+    decoding::splitIdList(*text, ids);
   else
     ids.assign(std::get<1>(list).begin(), std::get<1>(list).end());
   if (ids.empty()) throw std::invalid_argument("a record needs at least one id");
-  std::optional<ovfmt::Template> filled;
+  std::optional<decoding::Template> filled;
   if (layout) filled = parseTemplate(*layout, ids.size());
-  std::vector<ovfmt::ArgumentType> types;
+  std::vector<decoding::ArgumentType> types;
   for (std::size_t i = 0; i < ids.size(); ++i)
     types.push_back(
-        resolveAt(ids[i], [&] { return ovfmt::argumentPrefix(i + 1, ids.size(), ids[i]); }));
+        resolveAt(ids[i], [&] { return decoding::argumentPrefix(i + 1, ids.size(), ids[i]); }));
 
   const Bytes bytes(data);
   std::vector<std::string> texts;
@@ -138,7 +138,7 @@ void addItem(ValueBatch& batch, py::handle item, std::size_t index) {
   Py_ssize_t size = 0;
   const char* utf8 = PyUnicode_AsUTF8AndSize(id.ptr(), &size);
   if (!utf8) throw py::error_already_set();
-  const ovfmt::ArgumentType type =
+  const decoding::ArgumentType type =
       resolveAt({utf8, static_cast<std::size_t>(size)}, [&] { return itemPrefix(index); });
   batch.add(*type.formatter, type.id, Bytes(data).span());
 }

@@ -15,12 +15,12 @@ void ValueBatch::add(const host::FormatterPair& formatter, std::string_view id,
 }
 
 void ValueBatch::format(std::size_t firstIndex) {
-  ovfmt::RecordWalker& walker = threadWalker();
+  decoding::RecordWalker& walker = threadWalker();
   std::size_t idBegin = 0, bytesBegin = 0;
   for (std::size_t i = 0; i < values_.size(); ++i) {
     const Value& value = values_[i];
-    const ovfmt::ArgumentType type{std::string_view(ids_).substr(idBegin, value.idEnd - idBegin),
-                                   value.formatter};
+    const decoding::ArgumentType type{std::string_view(ids_).substr(idBegin, value.idEnd - idBegin),
+                                      value.formatter};
     walker.load(std::span(bytes_).subspan(bytesBegin, value.bytesEnd - bytesBegin));
     const auto arguments = walker.walk({&type, 1});
     if (std::string problem = walkProblem(walker, arguments, 1); !problem.empty())

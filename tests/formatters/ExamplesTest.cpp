@@ -78,15 +78,15 @@ void expectExample(const std::string& id, std::string hex, const std::string& te
     pieces.push_back(*piece);
   }
   // The length function first, on a zero-guarded copy: formatting is the slow part.
-  std::vector<unsigned char> guarded(ovfmt::kGuardBefore + 1024 + ovfmt::kGuardAfter);
-  unsigned char* value = guarded.data() + ovfmt::kGuardBefore;
+  std::vector<unsigned char> guarded(decoding::kGuardBefore + 1024 + decoding::kGuardAfter);
+  unsigned char* value = guarded.data() + decoding::kGuardBefore;
   const auto holds = [&](const Bytes& bytes) {
     std::copy(bytes.begin(), bytes.end(), value);
     const unsigned length = formatter->length(value);
     std::fill_n(value, bytes.size(), 0);
     if (length == kInvalidLength || (openEnd ? length < bytes.size() : length != bytes.size()))
       return false;
-    const auto decoded = ovfmt::decodeValue(*formatter, bytes);
+    const auto decoded = decoding::decodeValue(*formatter, bytes);
     return decoded.text == text && decoded.consumed == length;
   };
   constexpr std::size_t kMostLeftOut = 96;

@@ -1,8 +1,8 @@
 // The contract over every registered id: on any bytes, including corrupt ones, the
 // format function returns exactly what the length function returns, and neither crashes.
+#include "decoding/Decode.h"
 #include "registry/FormatMap.h"
 #include "tests/support/RandomValues.h"
-#include "tools/ovfmt/Decode.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ TEST(FormatLengthProperty, FormatReturnsLengthOnRandomBytes) {
     const host::FormatterPair pair{functions.first, functions.second};
     for (int i = 0; i < kValuesPerId; ++i) {
       const auto value = randomValue(rng);
-      const auto decoded = ovfmt::decodeValue(pair, value);
+      const auto decoded = decoding::decodeValue(pair, value);
       if (formatMayDiffer(id, value)) continue;
       ASSERT_EQ(decoded.consumed, decoded.length)
           << "id " << id << ", value #" << i << " of " << value.size() << " bytes";

@@ -1,10 +1,10 @@
 // Formatting every id from several threads at once, each on its own stream, and the
 // host's lookups while ids register. This is a test program of its own so that the
 // threads start before any lazily built table exists: the first calls race to build them.
+#include "decoding/Decode.h"
 #include "host/Registry.h"
 #include "registry/FormatMap.h"
 #include "registry/HostInterface.h"
-#include "tools/ovfmt/Decode.h"
 #include "tools/ovfmt/Hex.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +42,7 @@ std::vector<std::string> formatAll(const std::vector<Sample>& samples, int round
   std::vector<std::string> texts;
   for (int round = 0; round < rounds; ++round)
     for (const auto& sample : samples)
-      texts.push_back(ovfmt::decodeValue(sample.formatter, sample.bytes).text);
+      texts.push_back(decoding::decodeValue(sample.formatter, sample.bytes).text);
   return texts;
 }
 

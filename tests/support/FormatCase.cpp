@@ -7,7 +7,7 @@
 
 namespace Orvane::test {
 
-ovfmt::Decoded decode(const std::string& id, const std::string& hex) {
+decoding::Decoded decode(const std::string& id, const std::string& hex) {
   const host::FormatterPair* formatter = host::findFormatter(id);
   if (!formatter) {
     ADD_FAILURE() << "id " << id << " is not registered";
@@ -19,7 +19,7 @@ ovfmt::Decoded decode(const std::string& id, const std::string& hex) {
     ADD_FAILURE() << "bad test vector: " << error;
     return {};
   }
-  return ovfmt::decodeValue(*formatter, *bytes);
+  return decoding::decodeValue(*formatter, *bytes);
 }
 
 void expectCases(const std::vector<FormatCase>& cases) {

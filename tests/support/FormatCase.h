@@ -1,7 +1,7 @@
 // Table-driven checks of registered formatters: bytes in, text and counts out.
 #pragma once
 
-#include "tools/ovfmt/Decode.h"
+#include "decoding/Decode.h"
 
 #include <string>
 #include <vector>
@@ -17,7 +17,7 @@ struct FormatCase {
 };
 
 /// Formats `hex` through the pair registered for `id`, as the host does.
-ovfmt::Decoded decode(const std::string& id, const std::string& hex);
+decoding::Decoded decode(const std::string& id, const std::string& hex);
 
 /// Checks every case: exact text, length, and format consuming exactly the length.
 void expectCases(const std::vector<FormatCase>& cases);

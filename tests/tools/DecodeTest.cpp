@@ -1,6 +1,6 @@
 // One Decoder formats value after value; each must format as if it were the first:
 // on a stream in a new stream's state, in a buffer that is zero outside the value.
-#include "tools/ovfmt/Decode.h"
+#include "decoding/Decode.h"
 
 #include <gtest/gtest.h>
 
@@ -40,10 +40,10 @@ TEST(Decoder, EachValueSeesANewStreamsState) {
       {"precision and fixed", [](std::ostream& os) { os << std::setprecision(2) << std::fixed; }},
       {"left adjustment", [](std::ostream& os) { os << std::left << std::setw(6); }},
   };
-  const std::string fresh = ovfmt::decodeValue(kProbe, {0}).text;
+  const std::string fresh = decoding::decodeValue(kProbe, {0}).text;
   ASSERT_EQ(fresh, "255|0.333333|x");
   for (const auto& c : cases) {
-    ovfmt::Decoder decoder;
+    decoding::Decoder decoder;
     decoder.decode(leaving(c.change), {0});
     EXPECT_EQ(decoder.decode(kProbe, {0}).text, fresh) << "after a formatter that left " << c.left;
   }
@@ -51,8 +51,8 @@ TEST(Decoder, EachValueSeesANewStreamsState) {
 
 TEST(RecordWalker, EachArgumentSeesANewStreamsState) {
   const auto hex = leaving([](std::ostream& os) { os << std::hex << std::setw(8); });
-  const ovfmt::ArgumentType types[] = {{"hex", &hex}, {"probe", &kProbe}};
-  ovfmt::RecordWalker walker;
+  const decoding::ArgumentType types[] = {{"hex", &hex}, {"probe", &kProbe}};
+  decoding::RecordWalker walker;
   walker.load(std::vector<unsigned char>{0, 0});
   const auto arguments = walker.walk(types);
   ASSERT_EQ(arguments.size(), 2u);
@@ -68,7 +68,7 @@ TEST(Decoder, NextValueSeesNothingOfTheLastOne) {
     for (int i = -1; i < 8; ++i) os << static_cast<unsigned>(p[i]) << ' ';
     return 1u;
   });
-  ovfmt::Decoder decoder;
+  decoding::Decoder decoder;
   decoder.decode(around, std::vector<unsigned char>(300, 0xff));
   const auto next = decoder.decode(around, {7});
   EXPECT_EQ(next.text, "0 7 0 0 0 0 0 0 0 ");

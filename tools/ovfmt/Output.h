@@ -1,8 +1,8 @@
 // What a run prints, gathered in memory and written in order to two file descriptors.
 #pragma once
 
+#include "decoding/TextStream.h"
 #include "tools/ovfmt/GatheringWriter.h"
-#include "tools/ovfmt/TextStream.h"
 
 #include <string>
 #include <string_view>
@@ -18,7 +18,7 @@ namespace Orvane::ovfmt {
 class Output {
 public:
   /// The standard output text so far; print or append to it.
-  TextStream& text() { return text_; }
+  decoding::TextStream& text() { return text_; }
   /// Adds `line` (with its newline) for standard error, after the text so far.
   void error(std::string line) { errors_.push_back({text_.size(), std::move(line)}); }
 
@@ -37,7 +37,7 @@ private:
     std::size_t at; ///< the size of text_ when the line was added
     std::string line;
   };
-  TextStream text_;
+  decoding::TextStream text_;
   std::vector<ErrorLine> errors_;
 };
 

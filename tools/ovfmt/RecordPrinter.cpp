@@ -1,16 +1,29 @@
 #include "tools/ovfmt/RecordPrinter.h"
 
-#include "tools/ovfmt/Problems.h"
+#include "decoding/Problems.h"
+#include "tools/ovfmt/Hex.h"
 
 #include <algorithm>
 
 namespace Orvane::ovfmt {
+namespace {
+
+// Parses `hex` straight into the walker's buffer as the record. On bad hex returns
+// false, sets `error` (see parseHexInto) and leaves an empty record.
+bool loadHex(decoding::RecordWalker& walker, std::string_view hex, std::string& error) {
+  std::size_t written = 0;
+  const bool parsed = parseHexInto(hex, walker.prepare(maxHexBytes(hex)), written, error);
+  walker.place(parsed ? written : 0);
+  return parsed;
+}
+
+} // namespace
 
 bool RecordPrinter::print(const Where& where, std::string_view idList, std::string_view hex,
                           Output& output) {
   if (!resolve(where, idList, output)) return false;
   std::string hexError;
-  if (!walker_.loadHex(hex, hexError)) return fail(where, hexError, output);
+  if (!loadHex(walker_, hex, hexError)) return fail(where, hexError, output);
   return options_.counts ? printCounts(where, output) : printText(where, output);
 }
 
@@ -19,14 +32,14 @@ bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output&
     types_ = *known;
     return true;
   }
-  splitIdList(idList, ids_);
+  decoding::splitIdList(idList, ids_);
   if (!fitsTemplate(ids_.size())) return templateMisfit(where, ids_.size(), output);
   resolved_.clear();
   for (std::size_t i = 0; i < ids_.size(); ++i) {
     const host::FormatterPair* formatter = host::findFormatter(ids_[i]);
-    if (std::string problem = formatterProblem(ids_[i], formatter); !problem.empty())
+    if (std::string problem = decoding::formatterProblem(ids_[i], formatter); !problem.empty())
       return fail(where,
-                  argumentPrefix(i + 1, ids_.size(), ids_[i]) + problem +
+                  decoding::argumentPrefix(i + 1, ids_.size(), ids_[i]) + problem +
                       (formatter ? "" : " (ovfmt --list shows the ids)"),
                   output);
     resolved_.push_back({ids_[i], formatter});
@@ -37,13 +50,14 @@ bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output&
 }
 
 bool RecordPrinter::templateMisfit(const Where& where, std::size_t count, Output& output) {
-  return fail(where, placeholderCountProblem(options_.layout->placeholders(), count), output);
+  return fail(where, decoding::placeholderCountProblem(options_.layout->placeholders(), count),
+              output);
 }
 
 bool RecordPrinter::printCounts(const Where& where, Output& output) {
   const auto arguments = walker_.walk(types_);
-  TextStream& text = output.text();
-  for (const Argument& argument : arguments) {
+  decoding::TextStream& text = output.text();
+  for (const decoding::Argument& argument : arguments) {
     text.append(argument.id);
     text.append('\t');
     text.append(std::to_string(argument.length));
@@ -54,7 +68,8 @@ bool RecordPrinter::printCounts(const Where& where, Output& output) {
     text.append('\n');
   }
   if (arguments.size() < types_.size())
-    return fail(where, prefix(arguments.size()) + notReachedProblem(arguments.size()), output);
+    return fail(where, prefix(arguments.size()) + decoding::notReachedProblem(arguments.size()),
+                output);
   reportLeftover(where, arguments, output);
   return true;
 }
@@ -62,18 +77,19 @@ bool RecordPrinter::printCounts(const Where& where, Output& output) {
 bool RecordPrinter::printText(const Where& where, Output& output) {
   // Each text goes straight into the output after its gap; a record that fails takes
   // back what it printed.
-  TextStream& text = output.text();
+  decoding::TextStream& text = output.text();
   const std::size_t start = text.size();
   const bool gapped = options_.layout || types_.size() > 1;
   const auto arguments =
       walker_.walk(types_, text, gapped ? gaps() : std::span<std::string_view>());
   const std::size_t recordSize = walker_.size();
-  const bool clean = std::all_of(arguments.begin(), arguments.end(), [&](const Argument& a) {
-    return faultOf(a, recordSize) == Fault::None;
-  });
+  const bool clean =
+      std::all_of(arguments.begin(), arguments.end(), [&](const decoding::Argument& a) {
+        return decoding::faultOf(a, recordSize) == decoding::Fault::None;
+      });
   if (!clean) {
     text.truncate(start);
-    return fail(where, firstFaultProblem(arguments, types_.size(), recordSize), output);
+    return fail(where, decoding::firstFaultProblem(arguments, types_.size(), recordSize), output);
   }
   if (options_.layout) text.append(options_.layout->literal(types_.size()));
   text.append('\n');
@@ -93,9 +109,9 @@ std::span<const std::string_view> RecordPrinter::gaps() {
   return gaps_;
 }
 
-void RecordPrinter::reportLeftover(const Where& where, std::span<const Argument> arguments,
-                                   Output& output) {
-  if (std::string problem = leftoverProblem(walker_, arguments); !problem.empty())
+void RecordPrinter::reportLeftover(const Where& where,
+                                   std::span<const decoding::Argument> arguments, Output& output) {
+  if (std::string problem = decoding::leftoverProblem(walker_, arguments); !problem.empty())
     fail(where, problem, output);
 }
 
@@ -114,7 +130,7 @@ bool RecordPrinter::fail(const Where& where, const std::string& problem, Output&
 }
 
 std::string RecordPrinter::prefix(std::size_t index) const {
-  return argumentPrefix(index + 1, types_.size(), types_[index].id);
+  return decoding::argumentPrefix(index + 1, types_.size(), types_[index].id);
 }
 
 } // namespace Orvane::ovfmt

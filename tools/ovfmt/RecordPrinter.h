@@ -2,10 +2,10 @@
 // line per argument, and one error line on stderr for a record that failed.
 #pragma once
 
-#include "tools/ovfmt/IdList.h"
+#include "decoding/IdList.h"
+#include "decoding/Record.h"
+#include "decoding/Template.h"
 #include "tools/ovfmt/Output.h"
-#include "tools/ovfmt/Record.h"
-#include "tools/ovfmt/Template.h"
 
 #include <optional>
 #include <string>
@@ -20,7 +20,7 @@ struct PrintOptions {
   /// incomplete ones, instead of the record's text.
   bool counts = false;
   /// The record's line: the template filled in, else the texts joined by `separator`.
-  std::optional<Template> layout;
+  std::optional<decoding::Template> layout;
   std::string separator = " ";
 };
 
@@ -59,18 +59,19 @@ private:
   /// the separator between arguments (none before the first).
   std::span<const std::string_view> gaps();
   /// Reports the bytes a finished walk left after the record's last argument, if any.
-  void reportLeftover(const Where& where, std::span<const Argument> arguments, Output& output);
+  void reportLeftover(const Where& where, std::span<const decoding::Argument> arguments,
+                      Output& output);
   /// Adds "ovfmt: WHERE: PROBLEM" as an error line; returns false for `return fail(...)`.
   bool fail(const Where& where, const std::string& problem, Output& output);
   /// The "argument K of N (ID): " prefix of argument `index` (from 0) of types_.
   std::string prefix(std::size_t index) const;
 
   const PrintOptions& options_;
-  TypeListCache typeLists_;
-  RecordWalker walker_;
+  decoding::TypeListCache typeLists_;
+  decoding::RecordWalker walker_;
   std::vector<std::string_view> ids_;   ///< the ids of a list not seen before
-  std::vector<ArgumentType> resolved_;  ///< their types, as they are found
-  std::span<const ArgumentType> types_; ///< the current record's types
+  std::vector<decoding::ArgumentType> resolved_;  ///< their types, as they are found
+  std::span<const decoding::ArgumentType> types_; ///< the current record's types
   std::vector<std::string_view> gaps_;
 };
 

@@ -1,11 +1,11 @@
 // ovfmt: the command-line host. Loads formatter plug-ins and decodes records given as
 // "ID[,ID...] HEX..." on the command line or, with --batch, one per line of a file.
+#include "decoding/IdList.h"
+#include "decoding/Problems.h"
 #include "host/BaseTypes.h"
 #include "host/PluginLoader.h"
 #include "host/Registry.h"
 #include "tools/ovfmt/Batch.h"
-#include "tools/ovfmt/IdList.h"
-#include "tools/ovfmt/Problems.h"
 #include "tools/ovfmt/RecordPrinter.h"
 
 #include <charconv>
@@ -121,13 +121,13 @@ std::string conflicts(const Options& options) {
 std::string prepareTemplate(Options& options) {
   if (!options.layout) return "";
   std::string error;
-  options.print.layout = ovfmt::Template::parse(*options.layout, error);
+  options.print.layout = decoding::Template::parse(*options.layout, error);
   if (!options.print.layout) return error;
   if (options.record.empty()) return "";
   std::vector<std::string_view> ids;
-  ovfmt::splitIdList(options.record.front(), ids);
+  decoding::splitIdList(options.record.front(), ids);
   if (options.print.layout->placeholders() == ids.size()) return "";
-  return ovfmt::placeholderCountProblem(options.print.layout->placeholders(), ids.size());
+  return decoding::placeholderCountProblem(options.print.layout->placeholders(), ids.size());
 }
 
 // Returns the exit status to stop with, or -1 to go on.
@@ -170,7 +170,7 @@ int parse(int argc, char** argv, Options& options) {
       if (i + 1 < argc && (argv[i + 1][0] != '-' || std::strcmp(argv[i + 1], "-") == 0))
         options.batchFile = argv[++i];
     } else if (arg.size() > 1 && arg[0] == '-') {
-      return usageError("unknown option " + ovfmt::printable(arg));
+      return usageError("unknown option " + decoding::printable(arg));
     } else if (options.batch) {
       return usageError("--batch takes one FILE");
     } else {
@@ -200,7 +200,7 @@ int formatRecord(const Options& options) {
   std::string hex;
   for (std::size_t i = 1; i < options.record.size(); ++i) hex += options.record[i] + " ";
   const std::string& ids = options.record.front();
-  const std::string shown = ovfmt::printable(ids);
+  const std::string shown = decoding::printable(ids);
   ovfmt::RecordPrinter printer(options.print);
   ovfmt::Output output;
   const bool printed = printer.print({shown}, ids, hex, output);

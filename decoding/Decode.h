@@ -1,14 +1,14 @@
 // Formatting one value through a registered (format, length) pair, the way a host does.
 #pragma once
 
+#include "decoding/GuardedBuffer.h"
+#include "decoding/Record.h"
 #include "host/Registry.h"
-#include "tools/ovfmt/GuardedBuffer.h"
-#include "tools/ovfmt/Record.h"
 
 #include <string>
 #include <vector>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// What formatting one value produced.
 struct Decoded {
@@ -34,4 +34,4 @@ private:
 /// Decoder::decode() on a decoder of its own, for a single value.
 Decoded decodeValue(const host::FormatterPair& formatter, const std::vector<unsigned char>& bytes);
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// Zero bytes placed before and after a value, so that a corrupt or short value read
 /// as its layout says stays inside the buffer.
@@ -46,4 +46,4 @@ private:
   std::size_t size_ = 0;
 };
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

@@ -2,16 +2,16 @@
 // function of the one before says it ends, the way a host decodes a record.
 #pragma once
 
+#include "decoding/GuardedBuffer.h"
+#include "decoding/TextStream.h"
 #include "host/Registry.h"
-#include "tools/ovfmt/GuardedBuffer.h"
-#include "tools/ovfmt/TextStream.h"
 
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// An argument's type id and the functions registered for it (both set).
 struct ArgumentType {
@@ -53,15 +53,18 @@ class RecordWalker {
 public:
   /// Places `bytes` as the record, replacing the one before.
   void load(std::span<const unsigned char> bytes);
-  /// Parses `hex` straight into the buffer as the record. On bad hex returns false,
-  /// sets `error` (see parseHexInto) and leaves an empty record.
-  bool loadHex(std::string_view hex, std::string& error);
+  /// Room for a record of up to `capacity` bytes, for a caller that decodes its input
+  /// (hex text, say) straight into the buffer; place() then makes its first bytes the
+  /// record.
+  unsigned char* prepare(std::size_t capacity) { return buffer_.prepare(capacity); }
+  /// Makes the first `size` bytes written after prepare() the record.
+  void place(std::size_t size) { buffer_.setSize(size); }
   /// Bytes in the current record.
   std::size_t size() const { return buffer_.size(); }
   /// The current record's first byte, between the zero guards.
   const unsigned char* data() const { return buffer_.data(); }
 
-  /// Formats `types` in order over the record placed by load() or loadHex(). The walk
+  /// Formats `types` in order over the record placed by load() or place(). The walk
   /// stops after an argument whose length is invalid or runs past the bytes left, so it
   /// may return fewer arguments than `types`. The result and its texts stay valid until
   /// the next walk or load.
@@ -103,4 +106,4 @@ private:
   bool finished_ = false;
 };
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

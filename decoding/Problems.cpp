@@ -1,8 +1,8 @@
-#include "tools/ovfmt/Problems.h"
+#include "decoding/Problems.h"
 
 #include "registry/HexDigits.h"
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 namespace {
 
 std::string plural(std::size_t n, const char* one, const char* many) {
@@ -86,4 +86,4 @@ std::string placeholderCountProblem(std::size_t placeholders, std::size_t argume
          plural(arguments, "argument", "arguments");
 }
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

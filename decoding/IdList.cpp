@@ -1,6 +1,6 @@
-#include "tools/ovfmt/IdList.h"
+#include "decoding/IdList.h"
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 void splitIdList(std::string_view list, std::vector<std::string_view>& ids) {
   ids.clear();
@@ -23,4 +23,4 @@ void TypeListCache::remember(std::string_view idList, std::span<const ArgumentTy
   }
 }
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

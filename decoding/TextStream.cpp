@@ -1,10 +1,10 @@
-#include "tools/ovfmt/TextStream.h"
+#include "decoding/TextStream.h"
 
 #include <algorithm>
 #include <cstring>
 #include <type_traits>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 namespace {
 
 // Copies `n` characters. Most texts a formatter inserts (a label, a number, an address)
@@ -77,4 +77,4 @@ std::ostream& TextStream::fresh() {
   return stream_;
 }
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// Open addressing in a power-of-two table: no division and no node to chase per lookup.
 /// It takes entries up to three quarters full (far more than the ids of any plug-in
@@ -57,4 +57,4 @@ private:
   std::size_t used_ = 0;
 };
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

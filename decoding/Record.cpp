@@ -1,22 +1,12 @@
-#include "tools/ovfmt/Record.h"
-
-#include "tools/ovfmt/Hex.h"
+#include "decoding/Record.h"
 
 #include <algorithm>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 void RecordWalker::load(std::span<const unsigned char> bytes) {
   std::copy(bytes.begin(), bytes.end(), buffer_.prepare(bytes.size()));
   buffer_.setSize(bytes.size());
-}
-
-bool RecordWalker::loadHex(std::string_view hex, std::string& error) {
-  std::size_t written = 0;
-  const bool parsed = parseHexInto(hex, buffer_.prepare(maxHexBytes(hex)), written, error);
-  buffer_.setSize(written);
-  if (!parsed) buffer_.clear();
-  return parsed;
 }
 
 std::span<const Argument> RecordWalker::walkInto(std::span<const ArgumentType> types,
@@ -52,4 +42,4 @@ std::span<const Argument> RecordWalker::walkInto(std::span<const ArgumentType> t
   return arguments_;
 }
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

@@ -1,6 +1,6 @@
-#include "tools/ovfmt/Decode.h"
+#include "decoding/Decode.h"
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 Decoded Decoder::decode(const host::FormatterPair& formatter,
                         const std::vector<unsigned char>& bytes) {
@@ -14,4 +14,4 @@ Decoded decodeValue(const host::FormatterPair& formatter, const std::vector<unsi
   return Decoder().decode(formatter, bytes);
 }
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

@@ -1,6 +1,6 @@
-#include "tools/ovfmt/Template.h"
+#include "decoding/Template.h"
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 std::optional<Template> Template::parse(std::string_view text, std::string& error) {
   Template parsed;
   parsed.literals_.emplace_back();
@@ -32,4 +32,4 @@ void Template::render(std::span<const std::string_view> texts, std::string& out)
   }
 }
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

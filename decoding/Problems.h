@@ -5,13 +5,13 @@
 // more than one argument, and just "PROBLEM" for a single value.
 #pragma once
 
-#include "tools/ovfmt/Record.h"
+#include "decoding/Record.h"
 
 #include <span>
 #include <string>
 #include <string_view>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// `text` cut to 40 characters, with bytes outside printable ASCII as "\xNN": ids and
 /// hex come from untrusted input, and error lines must stay short and printable.
@@ -48,4 +48,4 @@ std::string notReachedProblem(std::size_t stoppedAt);
 /// both counts.
 std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments);
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

@@ -1,15 +1,15 @@
 // The ID[,ID...] list of a record, and finding each id's functions.
 #pragma once
 
+#include "decoding/Record.h"
+#include "decoding/StringTable.h"
 #include "host/Registry.h"
-#include "tools/ovfmt/Record.h"
-#include "tools/ovfmt/StringTable.h"
 
 #include <span>
 #include <string_view>
 #include <vector>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// Splits `list` at each ',' into `ids` (replacing its contents); the views point into
 /// `list`. An empty piece (as in "A,,B" or "A,") stays as an empty id, which no
@@ -35,4 +35,4 @@ private:
   StringTable<std::vector<ArgumentType>> lists_;
 };
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

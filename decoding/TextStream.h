@@ -8,7 +8,7 @@
 #include <streambuf>
 #include <string_view>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// A std::ostream over a growable character buffer. Texts printed one after another
 /// stay side by side in the buffer until clear(); each is found by the size() taken
@@ -83,4 +83,4 @@ private:
   std::ostream stream_;
 };
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding

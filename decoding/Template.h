@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Orvane::ovfmt {
+namespace Orvane::decoding {
 
 /// A parsed template. Each "{}" stands for the next argument's text, "{{" and "}}"
 /// print single braces, and every other character is literal. A '{' or '}' that is not
@@ -33,4 +33,4 @@ private:
   std::vector<std::string> literals_; ///< the text around the placeholders, braces unescaped
 };
 
-} // namespace Orvane::ovfmt
+} // namespace Orvane::decoding
