@@ -41,8 +41,10 @@
 #include "packet/KanetPktTraceFormatterWrapper.h"
 #include "packet/Packet.h"
 #include "registry/FormatMap.h"
+#include "registry/IdTable.h"
 
 #include <iterator>
+#include <vector>
 
 namespace Orvane {
 
@@ -58,128 +60,21 @@ const NameTable afiNames(std::begin(kAfiNameEntries), std::end(kAfiNameEntries))
 const NameTable multicastTunnelTypeNames(std::begin(kMulticastTunnelTypeNameEntries),
                                          std::end(kMulticastTunnelTypeNameEntries));
 const NameTable nlriTypeNames(std::begin(kNlriTypeNameEntries), std::end(kNlriTypeNameEntries));
-const std::unordered_map<unsigned, AfiSafi>
-    nlriTypeToAfiSafi(std::begin(kNlriTypeToAfiSafiEntries), std::end(kNlriTypeToAfiSafiEntries));
+const std::unordered_map<unsigned, AfiSafi> nlriTypeToAfiSafi(std::begin(kNlriTypeToAfiSafiEntries),
+                                                              std::end(kNlriTypeToAfiSafiEntries));
 const NameTable routingProtocolNames(std::begin(kRoutingProtocolNameEntries),
                                      std::end(kRoutingProtocolNameEntries));
 const NameTable safiNames(std::begin(kSafiNameEntries), std::end(kSafiNameEntries));
 
-// 4. The identifier table. Order has no effect on behaviour; one block per
-// family, sorted by id within it.
-std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap{
-    {"A", {formatAfAddr, lengthAfAddr}},
-    {"AF", {formatAf, lengthAf}},
-    {"AM4", {formatIpPrefix, lengthIpPrefix}},
-    {"AM6", {formatIp6Prefix, lengthIp6Prefix}},
-    {"DSFID", {formatDsfSystemId, lengthDsfSystemId}},
-    {"E", {formatEth, lengthEth}},
-    {"EC", {formatEthColonSeparated, lengthEthColonSeparated}},
-    {"EM", {formatEthMask, lengthEthMask}},
-    {"ES", {formatEthSegment, lengthEthSegment}},
-    {"I", {formatIp, lengthIp}},
-    {"I6", {formatIp6Addr, lengthIp6Addr}},
-    {"IG", {formatIpGenAddr, lengthIpGenAddr}},
-    {"IGM", {formatIpGenAddrWithFullMask, lengthIpGenAddrWithFullMask}},
-    {"IGMO", {formatIpGenAddrOptWithFullMask, lengthIpGenAddrWithFullMaskOpt}},
-    {"IGO", {formatIpGenAddrOpt, lengthIpGenAddrOpt}},
-    {"IP", {formatIpAndPort, lengthIpAndPort}},
-    {"IS", {formatIsisSystemId, lengthIsisSystemId}},
-    {"P", {formatIpPrefix, lengthIpPrefix}},
-    {"P6", {formatIp6Prefix, lengthIp6Prefix}},
-    {"PG", {formatIpGenPrefix, lengthIpGenPrefix}},
-    {"PGO", {formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized}},
-    // BGP codes, RDs and RTs, MPLS labels and FECs, EVPN layer-2 attributes.
-    {"AFI", {static_cast<FormatPtr>(formatAfi), lengthAfi}},
-    {"AFS", {static_cast<FormatPtr>(formatAfiSafi), lengthAfiSafi}},
-    {"EL", {formatEvpnLabel, lengthEvpnLabel}},
-    {"EL2", {formatEvpnL2AttrsV2, lengthEvpnL2Attrs}},
-    {"EL2V3", {formatEvpnL2AttrsV3, lengthEvpnL2Attrs}},
-    {"EL2old", {formatEvpnL2AttrsV1, lengthEvpnL2Attrs}},
-    {"FM", {formatMplsFwdEqvClass, lengthMplsFwdEqvClass}},
-    {"FMO", {formatMplsFwdEqvClassOptimized, lengthMplsFwdEqvClassOptimized}},
-    {"GFID", {formatGlobalFecId, lengthGlobalFecId}},
-    {"LO", {formatMplsLabelOperation, lengthMplsLabelOperation}},
-    {"LVK", {formatLfibViaKey, lengthLfibViaKey}},
-    {"ML", {static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel}},
-    {"MRTR", {formatMplsRouterId, lengthMplsRouterId}},
-    {"NLRI", {static_cast<FormatPtr>(formatNlriType), lengthNlriType}},
-    {"NLRI2AFISAFI", {formatNlriType2AfiSafi, lengthNlriType2AfiSafi}},
-    {"RD", {static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher}},
-    {"RT", {static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget}},
-    {"RTMRK", {formatRtMembershipRouteKey, lengthRtMembershipRouteKey}},
-    {"SAFI", {formatSafiLegacy, lengthSafi}},
-    // Tunnel, pseudowire, RIB, IGP node, multicast, CSPF and BFD keys.
-    {"BP", {formatBfdPeer, lengthBfdPeer}},
-    {"BPO", {formatBfdPeerOptimized, lengthBfdPeerOptimized}},
-    {"CCPK", {formatCspfClientPathKey, lengthCspfClientPathKey}},
-    {"CP2MPK", {formatCspfP2mpPathKey, lengthCspfP2mpPathKey}},
-    {"CPK", {formatCspfPathKey, lengthCspfPathKey}},
-    {"CV", {formatCspfVertex, lengthCspfVertex}},
-    {"IGPN", {formatIgpNodeId, lengthIgpNodeId}},
-    {"MF", {formatMRouteFlags, lengthMRouteFlags}},
-    {"MFGK", {formatMfibGenRouteKey, lengthMfibGenRouteKey}},
-    {"MFGKO", {formatMfibGenRouteKeyOptimized, lengthMfibGenRouteKeyOptimized}},
-    {"MFK", {formatMfibRouteKey, lengthMfibRouteKey}},
-    {"MIJ", {formatMRouteIntfJoinState, lengthMRouteIntfJoinState}},
-    {"MIR", {formatMRouteIntfRptJoinState, lengthMRouteIntfRptJoinState}},
-    {"MK", {formatMRouteKey, lengthMRouteKey}},
-    {"MKO", {formatMRouteKeyOptimized, lengthMRouteKeyOptimized}},
-    {"MTT", {formatMulticastTunnelType, lengthMulticastTunnelType}},
-    {"PGKR", {formatIpGenUcastKeyRef, lengthIpGenUcastKeyRef}},
-    {"PGKRO", {formatIpGenUcastKeyRefOptimized, lengthIpGenUcastKeyRefOptimized}},
-    {"PW", {formatPseudowireKey, lengthPseudowireKey}},
-    {"PWO", {formatPseudowireKeyOptimized, lengthPseudowireKeyOptimized}},
-    {"RRRK", {formatRibRouteKey, lengthRibRouteKey}},
-    {"RRRKO", {formatRibRouteKeyOptimized, lengthRibRouteKeyOptimized}},
-    {"RRRP", {formatRoutingProtocol, lengthRoutingProtocol}},
-    {"RVK", {formatRibViaKey, lengthRibViaKey}},
-    {"TK", {formatTunnelKey, lengthTunnelKey}},
-    {"TKG", {formatTunnelKeyGen, lengthTunnelKeyGen}},
-    {"TKGO", {formatTunnelKeyGenOptimized, lengthTunnelKeyGenOptimized}},
-    {"VLAFP", {formatAfProto, lengthAfProto}},
-    {"VLAFPV", {formatAfProtoVrfId, lengthAfProtoVrfId}},
-    // BGP next hop, route keys, peer keys, BMP route keys and adj-RIB-in types.
-    {"BMPRK", {formatBmpRouteKey, lengthBmpRouteKey}},
-    {"BNH", {formatBgpGenNextHop, lengthBgpGenNextHop}},
-    {"BPK", {formatBgpPeerKey, lengthBgpPeerKey}},
-    {"BRK", {formatBgpRouteKeyOld, lengthBgpRouteKeyOld}},
-    {"BRY", {formatBgpRouteKeyNew, lengthBgpRouteKeyNew}},
-    {"RIBINT", {formatAdjRibinType, lengthAdjRibinType}},
-    // Service and forwarding-hardware keys, sequences and sets, packets.
-    {"ARPICE", {formatArpInputConfigEntry, lengthArpInputConfigEntry}},
-    {"ARPICK", {formatArpInputConfigKey, lengthArpInputConfigKey}},
-    {"ARPIPIK", {formatArpInputPriorityInterfaceKey, lengthArpInputPriorityInterfaceKey}},
-    {"ARPIPK", {formatArpInputPriorityKey, lengthArpInputPriorityKey}},
-    {"C", {formatConnTuple, lengthConnTuple}},
-    {"DMBK", {formatDuidMacBindingKey, lengthDuidMacBindingKey}},
-    {"F", {formatFapmask, lengthFapmask}},
-    {"GR", {formatGenRange, lengthGenRange}},
-    {"GRO", {formatGenRangeOptimized, lengthGenRangeOptimized}},
-    {"HIFK", {formatHoIpFlowKey, lengthHoIpFlowKey}},
-    {"IDS", {formatIdSet, lengthIdSet}},
-    {"IE", {formatIntfEncap, lengthIntfEncap}},
-    {"IE2", {formatIntfEncapV2, lengthIntfEncapV2}},
-    {"IFK", {formatIpFlowKey, lengthIpFlowKey}},
-    {"IPMACV2", {formatIpMacV2, lengthIpMacV2}},
-    {"IPMACV2O", {formatIpMacV2Optimized, lengthIpMacV2Optimized}},
-    {"MV", {formatMacVtep, lengthMacVtep}},
-    {"MVP", {formatMacVlanPair, lengthMacVlanPair}},
-    {"NDC", {formatNatDynamicConn, lengthNatDynamicConn}},
-    {"NDK", {formatNatDynamicKey, lengthNatDynamicKey}},
-    {"NSK", {formatNatStaticKey, lengthNatStaticKey}},
-    {"OUTAC", {formatOutAcKey, lengthOutAcKey}},
-    {"OUTACTYPE", {formatOutAcTypeKey, lengthOutAcTypeKey}},
-    {"PKT", {formatKanetPkt, lengthKanetPkt}},
-    {"PMK", {formatUpnpPortMapKey, lengthUpnpPortMapKey}},
-    {"SVIESEM", {formatSviEgressEsemRequestKey, lengthSviEgressEsemRequestKey}},
-    {"SVIEVE", {formatSviEgressEveKey, lengthSviEgressEveKey}},
-    {"UDF", {formatUdfDesc, lengthUdfDesc}},
-    {"US", {formatUnsignedSequence, lengthUnsignedSequence}},
-    {"VIDP", {formatVrfIdPair, lengthVrfIdPair}},
-    {"VIP", {formatVlanIpPair, lengthVlanIpPair}},
-    {"VIPO", {formatVlanIpPairOptimized, lengthVlanIpPairOptimized}},
-    {"VSP", {formatVniSourcePair, lengthVniSourcePair}},
-};
+// 4. The identifier table, built from the constant id table (registry/IdTable.h) in
+// that table's order.
+std::unordered_map<std::string, std::pair<FormatFn, LengthFn>> formatMap = [] {
+  std::vector<std::pair<const std::string, std::pair<FormatFn, LengthFn>>> rows;
+  rows.reserve(std::size(kIdTable));
+  for (const IdEntry& entry : kIdTable)
+    rows.push_back({std::string(entry.id), {entry.format, entry.length}});
+  return std::unordered_map<std::string, std::pair<FormatFn, LengthFn>>(rows.begin(), rows.end());
+}();
 
 } // namespace Orvane
 
