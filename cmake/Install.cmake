@@ -2,7 +2,7 @@
 #   bin/ovfmt                                 the command-line host
 #   LIBDIR/libOrvaneHost.so.0                 the host library (and its symlinks)
 #   LIBDIR/orvane/libKaMessageFormatter.so    the plug-in, under the name hosts load
-#   include/orvane/...                        the public headers
+#   include/orvane/...                        the public headers, tracing/ among them
 #   LIBDIR/cmake/Orvane/                      the CMake package: Orvane::Host,
 #                                             Orvane::KaMessageFormatter, Orvane::ovfmt
 #   LIBDIR/pkgconfig/                         orvane-host.pc and orvane.pc
@@ -24,7 +24,7 @@ install(TARGETS OrvaneHost ovfmt EXPORT OrvaneTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS KaMessageFormatter EXPORT OrvaneTargets
   LIBRARY DESTINATION ${ORVANE_PLUGIN_SUBDIR})
-install(DIRECTORY registry host address mpls bgp keys packet
+install(DIRECTORY registry host address mpls bgp keys packet tracing
   DESTINATION ${ORVANE_INCLUDE_DIR} FILES_MATCHING PATTERN "*.h")
 
 # find_package(Orvane 0.1 CONFIG): any 0.x release of at least the version asked for.
