@@ -11,7 +11,7 @@ std::string jsonSchemaLine() {
 }
 
 void JsonLayout::beginEvent(const EventInfo& event) {
-  nesting_.reset();
+  resetNesting();
   out_ += R"({"type":"event","timestamp_ns":)";
   if (event.hasTimestamp)
     appendSigned(out_, event.timestampNs, false);
@@ -24,20 +24,6 @@ void JsonLayout::beginEvent(const EventInfo& event) {
 void JsonLayout::beginScope(Scope scope) {
   out_ += scope == Scope::Context ? R"(,"context":)" : R"(,"payload":)";
   open('{');
-}
-
-void JsonLayout::open(char bracket) {
-  out_ += bracket;
-  nesting_.open();
-}
-
-void JsonLayout::close(char bracket) {
-  out_ += bracket;
-  nesting_.close();
-}
-
-void JsonLayout::separate() {
-  if (nesting_.nextItem()) out_ += ',';
 }
 
 void JsonLayout::member(std::string_view name) {

@@ -6,7 +6,7 @@
 namespace Orvane::tracing {
 
 void TextLayout::beginEvent(const EventInfo& event) {
-  nesting_.reset();
+  resetNesting();
   scopeBefore_ = false;
   if (event.hasTimestamp) clock_.append(out_, event.timestampNs);
   if (!event.host.empty()) {
@@ -22,19 +22,6 @@ void TextLayout::beginScope(Scope) {
   scopeBefore_ = true;
   open('{');
 }
-
-void TextLayout::open(char bracket) {
-  out_ += bracket;
-  nesting_.open();
-}
-
-void TextLayout::close(char bracket) {
-  out_ += ' ';
-  out_ += bracket;
-  nesting_.close();
-}
-
-void TextLayout::separate() { out_ += nesting_.nextItem() ? ", " : " "; }
 
 void TextLayout::member(std::string_view name) {
   separate();

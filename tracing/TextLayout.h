@@ -2,8 +2,7 @@
 // each field "name = value", a typed field as its formatter's text.
 #pragma once
 
-#include "tracing/FieldVisitor.h"
-#include "tracing/Nesting.h"
+#include "tracing/NestedLayout.h"
 #include "tracing/Timestamp.h"
 
 #include <string>
@@ -13,37 +12,25 @@ namespace Orvane::tracing {
 /// Appends each event's line to a string. Strings are quoted, typed values are not;
 /// control characters in either are escaped (tracing/Escape.h). An invalid typed field
 /// prints "<invalid: REASON [HEX BYTES]>".
-class TextLayout final : public FieldVisitor {
+class TextLayout final : public NestedLayout {
 public:
-  TextLayout(std::string& out, ClockOptions clock) : out_(out), clock_(clock) {}
+  TextLayout(std::string& out, ClockOptions clock)
+      : NestedLayout(out, {" ", ", ", " "}), clock_(clock) {}
 
   void beginEvent(const EventInfo& event) override;
   void endEvent() override { out_ += '\n'; }
   void beginScope(Scope scope) override;
-  void endScope(Scope) override { close('}'); }
   void member(std::string_view name) override;
   void element(std::size_t index) override;
   void unsignedInteger(std::uint64_t value, bool hex) override;
   void signedInteger(std::int64_t value, bool hex) override;
   void real(double value) override;
-  void boolean(bool value) override { out_ += value ? "true" : "false"; }
   void string(std::string_view value) override;
   void typed(std::string_view id, const TypedResult& result,
              std::span<const unsigned char> bytes) override;
-  void none() override { out_ += "null"; }
-  void beginStructure() override { open('{'); }
-  void endStructure() override { close('}'); }
-  void beginArray() override { open('['); }
-  void endArray() override { close(']'); }
 
 private:
-  void open(char bracket);
-  void close(char bracket);
-  void separate();
-
-  std::string& out_;
   TimestampPrinter clock_;
-  Nesting nesting_;
   bool scopeBefore_ = false;
 };
 

@@ -157,13 +157,6 @@ bool GraphBuilder::build(const TraceRequest& request, const std::vector<std::str
       bt_value_map_insert_string_entry(range.get(), "end", request.end.c_str());
     if (!addFilter("utils", "trimmer", range.get())) return false;
   }
-  // babeltrace2 adds the debug-info filter whenever its plug-in is there; so does this.
-  const bt_plugin* lttngUtils = nullptr;
-  if (bt_plugin_find("lttng-utils", BT_TRUE, BT_TRUE, BT_TRUE, BT_TRUE, BT_FALSE, &lttngUtils) ==
-      BT_PLUGIN_FIND_STATUS_OK) {
-    bt_plugin_put_ref(lttngUtils);
-    if (!addFilter("lttng-utils", "debug-info", nullptr)) return false;
-  }
   return addSink(request.json, report);
 }
 

@@ -31,8 +31,8 @@ struct TraceOutcome {
 std::vector<std::string> findTraces(const std::string& path);
 
 /// Builds the graph babeltrace2's convert command builds for `path` (a CTF source per
-/// trace, the muxer, the trimmer when a range is given, the debug-info filter when its
-/// plug-in is installed, then the sink of tracing/Sink.h) and runs it. The host
+/// trace, the muxer, the trimmer when a range is given, then the sink of tracing/Sink.h)
+/// and runs it. The host
 /// registry must hold the formatters already.
 TraceOutcome readTraces(const TraceRequest& request);
 
