@@ -14,10 +14,6 @@ bool isByteArray(const bt_field_class* fieldClass) {
          bt_field_class_integer_get_field_value_range(element) == 8;
 }
 
-bool isUsable(const host::FormatterPair* formatter) {
-  return formatter && formatter->format && formatter->length;
-}
-
 bool prefersHex(const bt_field_class* fieldClass) {
   return bt_field_class_integer_get_preferred_display_base(fieldClass) ==
          BT_FIELD_CLASS_INTEGER_PREFERRED_DISPLAY_BASE_HEXADECIMAL;
@@ -41,8 +37,7 @@ EventWalker::Plan EventWalker::makePlan(const bt_field_class* structure,
         eventClass ? types_.find(bt_event_class_get_name(eventClass), name) : std::string_view();
     if (!mapped.empty()) {
       planned.id = mapped;
-    } else if (const auto split = splitTypedName(name);
-               split && isUsable(host::findFormatter(split->id))) {
+    } else if (const auto split = splitTypedName(name)) { // an unknown id reads as invalid
       planned.shown = split->shown;
       planned.id = split->id;
     } else {

@@ -19,7 +19,8 @@ namespace Orvane::tracing {
 /// per event. One walker serves one thread.
 class EventWalker {
 public:
-  /// `types` types payload fields whose names carry no id.
+  /// `types` types payload fields whose names carry no id. A byte array whose name ends
+  /// in "__" and an id is typed; an id nobody registered makes it invalid.
   explicit EventWalker(TypeMap types = {}) : types_(std::move(types)) {}
 
   /// Hands `event` to `visitor`; `info` gives its name and timestamp.

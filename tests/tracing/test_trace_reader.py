@@ -48,7 +48,7 @@ def json_lines(stdout):
 def typed_fields(fields):
     """(shown name, id, bytes) of each typed field among `fields` (name -> value)."""
     for name, value in fields.items():
-        if "__" in name and isinstance(value, bytes) and name.rsplit("__", 1)[1] != "NOPE":
+        if "__" in name and isinstance(value, bytes):
             shown, type_id = name.rsplit("__", 1)
             yield shown, type_id, value
 
@@ -78,9 +78,9 @@ class TraceReaderTest(unittest.TestCase):
                     self.assertEqual(payload[shown]["hex"], data.hex())
                     self.assertTrue(payload[shown]["invalid"])
                 checked += 1
-        self.assertEqual(checked, 10)
-        # A byte array with no registered id stays an array of numbers.
-        self.assertEqual(events[1]["payload"]["blob__NOPE"], [3])
+        self.assertEqual(checked, 13)
+        self.assertEqual(events[1]["payload"]["blob"]["invalid"], 'unknown id "NOPE"')
+        self.assertEqual(events[1]["payload"]["raw"], [1, 2])  # no id: an ordinary array
         self.assertEqual(events[4]["payload"]["text"], make_trace.VALUES[4][1]["text"].decode("latin-1")
                          .replace("\xc2\x9b", "\x9b"))
 
@@ -94,7 +94,9 @@ class TraceReaderTest(unittest.TestCase):
         self.assertTrue(peer_up.startswith("[22:13:21.000000000] (+?.?????????) router1 bgp:peer_up: "
                                            "{ cpu_id = 0, vtid = 100 }, { seq = 1, peer = \"pe1\", addr = "))
         for shown, type_id, data in typed_fields(make_trace.VALUES[1][1]):
-            self.assertIn("%s = %s," % (shown, ovfmt_text(type_id, data)), route)
+            if type_id != "NOPE":
+                self.assertIn("%s = %s," % (shown, ovfmt_text(type_id, data)), route)
+        self.assertIn('blob = <invalid: unknown id "NOPE" [03]>', route)
         self.assertIn("nexthop = <invalid: value too short: 10 bytes given, BNH needs 16 "
                       "[01 02 00 00 00 03 01 00 00 0a]>", lines[2])
         self.assertIn("prefix = <invalid: invalid encoding: the length function of PGO returned "
