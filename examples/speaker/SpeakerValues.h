@@ -3,14 +3,12 @@
 // names drawn from a seeded generator, so a seed always gives the same values.
 #pragma once
 
+#include "speaker/Bytes.h"
+
 #include <cstdint>
 #include <random>
-#include <vector>
 
 namespace Speaker {
-
-/// One encoded value: the bytes a typed tracepoint field records.
-using Bytes = std::vector<unsigned char>;
 
 /// Draws encoded values from a generator seeded once: the same seed, the same values.
 class SpeakerValues {
