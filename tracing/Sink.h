@@ -18,16 +18,11 @@ inline constexpr const char* kTextSinkHelp =
     "(booleans, text only), types=\"EVENT.FIELD=ID\" or an array of them. "
     "See docs/traces.md.";
 
-/// What a sink tells the program that created it, through the initialisation data of
-/// bt_graph_add_sink_component_with_initialize_method_data() (null when nobody asks).
-struct SinkReport {
-  std::size_t invalidFields = 0; ///< typed fields that printed as invalid
-  bool writeFailed = false;      ///< the output could not be written
-};
-
-/// The component's methods. Output goes to standard output, warnings to standard error.
-/// The host registry must hold the formatters before initialize() (the front end loads
-/// them).
+/// The component's methods. The sink prints (PrintingConsumer, as its parameters say)
+/// unless the program that creates it passes a MessageConsumer as the initialisation data
+/// of bt_graph_add_sink_component_with_initialize_method_data(): then every message goes
+/// to that consumer. The host registry must hold the formatters before initialize() (the
+/// front end loads them).
 bt_component_class_initialize_method_status
 initializeTextSink(bt_self_component_sink* self, bt_self_component_sink_configuration* config,
                    const bt_value* params, void* initializeData);
