@@ -25,7 +25,6 @@ struct TraceOptions {
   bool json = false;
   std::string begin, end;
   std::vector<std::string> plugins;
-  bool help = false;
 };
 
 int usage(const std::string& problem) {
@@ -44,8 +43,7 @@ std::optional<std::string> parse(int argc, char** argv, TraceOptions& options) {
                                              : nullptr;
     if (arg == "--json") {
       options.json = true;
-    } else if (arg == "--help" || arg == "-h") {
-      options.help = true;
+
     } else if (arg == "--plugin" && value) {
       options.plugins.push_back(argv[++i]);
     } else if (target && value && target->empty()) {
@@ -90,11 +88,12 @@ bool isTraceCommand(int argc, char** argv) {
 
 int runTrace(int argc, char** argv, const PluginLoading& loadPlugins) {
   TraceOptions options;
+  for (int i = 1; i < argc; ++i)
+    if (std::strcmp(argv[i], "--help") == 0 || std::strcmp(argv[i], "-h") == 0) {
+      std::cout << kTraceUsage;
+      return kExitOk;
+    }
   if (const auto problem = parse(argc, argv, options)) return usage(*problem);
-  if (options.help) {
-    std::cout << kTraceUsage;
-    return kExitOk;
-  }
   if (!loadPlugins(options.plugins)) return kExitUsage;
   return readTraces(options);
 }
