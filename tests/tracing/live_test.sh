@@ -38,5 +38,5 @@ lttng destroy "$session" >/dev/null
 wait "$reader" || { cat "$work/babeltrace2.log"; exit 1; }
 lines=$(grep -c "router = \"$router\"" "$work/live.txt" || true)
 [ "$lines" -eq "$events" ] || { echo "live: $lines lines for $events events"; exit 1; }
-grep "router = \"$router\"" "$work/live.txt" | grep -q 'peer = 10.0.0.1%et1' || { echo "live: no typed peer key"; exit 1; }
+grep -q "router = \"$router\", peer = 10.0.0.1%et1," "$work/live.txt" || { echo "live: no typed peer key"; exit 1; }
 echo "live: $lines events read"
