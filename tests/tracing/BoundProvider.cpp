@@ -1,8 +1,10 @@
-// Traces one orvane_test:value event per row of kRows, for bound_test.sh to read back.
+// Traces one orvane_test:value event per row of kRows, for bound_test.sh to read back,
+// and prints how many times the length function of `stated` ran.
 #define LTTNG_UST_TRACEPOINT_CREATE_PROBES
 #define LTTNG_UST_TRACEPOINT_DEFINE
 #include "BoundTracepoints.h"
 
+#include <iostream>
 #include <vector>
 
 namespace {
@@ -31,4 +33,5 @@ int main() {
     std::memcpy(value.data(), &row.stated, sizeof row.stated);
     lttng_ust_tracepoint(orvane_test, value, value.data(), row.operation, row.prefix);
   }
+  std::cout << statedSizeCalls << "\n";
 }

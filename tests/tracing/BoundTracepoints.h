@@ -12,8 +12,12 @@
 #include <cstdint>
 #include <cstring>
 
+/// How many times statedSize ran: once per recorded event, if the probe keeps its word.
+inline unsigned statedSizeCalls = 0;
+
 /// The size a value states in its first four bytes (native u32), whatever it is.
 inline unsigned statedSize(const unsigned char* value) {
+  ++statedSizeCalls;
   std::uint32_t size;
   std::memcpy(&size, value, sizeof size);
   return size;

@@ -18,6 +18,19 @@ record() {
   "$python" "$here/check_trace.py" typed "$ovfmt" "$work/$1" 12 >"$work/$1.typed"
   babeltrace2 "$work/$1" | grep -c "router = \"$1\"" >/dev/null || fail "no event of router $1"
 }
+# Each event of the simulation with its typed fields, by name.
+expected_fields="evpn_mac attributes__EL2 mac__E route__BRY
+label_program operation__LO prefix__PGO
+packet_in packet__PKT peer__BPK
+peer_up address6__I6 address__I mac__E peer__BPK
+route_update as_path__US label__ML nexthop__BNH prefix__PGO rd__RD route__BRY
+route_withdraw prefix6__PG route__BRK"
+# The events and typed fields of a listing, one line per event, names sorted.
+fields_of() {
+  sed 's/^orvane_speaker:\([^ ]*\) \([^ ]*\) .*/\1 \2/' "$1" | sort -u |
+    awk '$1 != event { if (line) print line; event = $1; line = $1 } { line = line " " $2 }
+         END { print line }'
+}
 source "$root/scripts/lttng-daemon.bash"
 
 if lttng_daemon_answers; then
@@ -38,5 +51,6 @@ grep -q "using the running session daemon (pid $running)" "$work/running.log" ||
 kill -0 "$running" || fail "the running daemon $running was stopped"
 lttng_daemon_release
 
+diff -u <(echo "$expected_fields") <(fields_of "$work/running.typed") || fail "other typed fields"
 [ ! -e "$work/own.typed" ] || diff -u "$work/own.typed" "$work/running.typed" ||
   fail "the same seed gave other values"
