@@ -7,6 +7,7 @@
 #include "host/Registry.h"
 #include "tools/ovfmt/Batch.h"
 #include "tools/ovfmt/RecordPrinter.h"
+#include "tools/ovfmt/Trace.h"
 
 #include <charconv>
 #include <climits>
@@ -232,6 +233,11 @@ int formatBatch(const Options& options) {
 
 int main(int argc, char** argv) {
   Options options;
+  if (ovfmt::isTraceCommand(argc, argv))
+    return ovfmt::runTrace(argc, argv, [&](const std::vector<std::string>& plugins) {
+      options.plugins = plugins;
+      return loadPlugins(options) && (host::registerBaseTypes(), true);
+    });
   if (int status = parse(argc, argv, options); status >= 0) return status;
   if (!loadPlugins(options)) return kExitUsage;
   host::registerBaseTypes();
