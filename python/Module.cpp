@@ -7,6 +7,10 @@
 #include "python/Errors.h"
 #include "python/Formatting.h"
 #include "python/Plugins.h"
+#include "python/PyText.h"
+#ifdef ORVANE_WITH_TRACES
+#include "python/TraceEvents.h"
+#endif
 #include "python/ValueBatch.h"
 
 #include <pybind11/pybind11.h>
@@ -48,15 +52,6 @@ public:
 private:
   Py_buffer view_;
 };
-
-/// A formatter's text as a str. Formatters print bytes as they find them (a corrupt
-/// string field may hold any byte), so bytes that are not UTF-8 become "\xNN" escapes.
-py::str toStr(std::string_view text) {
-  PyObject* str =
-      PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "backslashreplace");
-  if (!str) throw py::error_already_set();
-  return py::reinterpret_steal<py::str>(str);
-}
 
 /// resolve() with `where()` put before the problem of an id it cannot resolve (built
 /// only then: most ids resolve).
@@ -247,6 +242,17 @@ directory path; with no path, the plug-in installed or built beside this module.
 The host's base types (u8, u16, u32, u64, x16, x32, bool, str) are registered
 after the first plug-in. Loading a plug-in again does nothing. Raises LoadError
 (an OSError) naming each path that failed.)");
+#ifdef ORVANE_WITH_TRACES
+  py::class_<TraceReader>(m, "TraceReader",
+                          "The event batches of a trace; orvane.trace.events() reads with it.")
+      .def(py::init<const std::string&, const std::optional<std::string>&,
+                    const std::optional<std::string>&, py::object,
+                    const std::vector<std::string>&>(),
+           py::arg("path"), py::arg("begin"), py::arg("end"), py::arg("invalid_type"),
+           py::arg("types"))
+      .def("__iter__", [](TraceReader& reader) -> TraceReader& { return reader; })
+      .def("__next__", &TraceReader::next);
+#endif
   m.def("ids", &ids, "Every registered id, sorted: the plug-ins' and the host's base types.");
   m.def("length", &length, py::arg("id"), py::arg("data"),
         R"(The size in bytes of the value of type id at the start of data, as its
