@@ -9,10 +9,16 @@ Every element is a plain dict, cheap to send between processes::
      "timestamp_ns": 1700000000123456789, "fields": {"prefix": "10.1.16.0/20", ...}}
 
 An invalid typed field's value is an orvane.trace.InvalidValue, which says why and holds
-the bytes. Counting the routes each router sent::
+the bytes. Counting events, and the next hops of the first routes, on the scheduler that
+computes the bag (here one thread; a Client's cluster once one is made):
 
-    bag = orvane.dask.events(["/traces/router-1", "/traces/router-2"])
-    bag.filter(lambda e: e["event"].endswith("route_update")).pluck("trace").frequencies()
+    >>> import orvane.dask
+    >>> bag = orvane.dask.events([trace_dir])
+    >>> dict(bag.pluck("event").frequencies())["orvane_speaker:route_update"]
+    11
+    >>> routes = bag.filter(lambda event: event["event"].endswith("route_update"))
+    >>> routes.pluck("fields").pluck("nexthop").take(1)
+    ('<ip:10.0.0.1, routerMac:001c.7300.9968> (L3-vrfId:3)',)
 
 Dask comes from Debian (python3-dask, and python3-distributed for a cluster); without it
 this module does not import, and orvane.trace still works.

@@ -6,9 +6,13 @@ formatter prints, exactly as ovfmt and the babeltrace2 sink print it. Integers a
 int, strings as str. Reading and decoding run in C++ (libbabeltrace2 and the plug-in),
 a batch of events at a time, so Python sees finished values only.
 
-    for event in orvane.trace.events("/traces/router-1"):
-        if event.name == "bgp:route_update":
-            print(event.timestamp_ns, event.fields["prefix"], event.raw["prefix"].hex())
+    >>> import orvane.trace
+    >>> events = list(orvane.trace.events(trace_dir))  # the example speaker, seed 1
+    >>> first = events[0]
+    >>> first.name, first.fields["peer"], first.raw["peer"].hex()
+    ('orvane_speaker:peer_up', '10.0.0.1%et1', '05010100000a03657431')
+    >>> sum(event.timestamp_ns >= first.timestamp_ns for event in events) == len(events)
+    True
 
 A typed field whose bytes do not hold a value (fewer bytes than its length function
 says, an invalid length, an unknown id, or a value the writer left empty) raises

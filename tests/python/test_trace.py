@@ -2,6 +2,7 @@
 and a fleet of four traces of the example speaker recorded through LTTng-UST, checked
 against babeltrace2's own Python reading and the formatters' texts."""
 
+import doctest
 import os
 import subprocess
 import sys
@@ -76,6 +77,18 @@ class RecordedTrace(unittest.TestCase):
             kept = [e.timestamp_ns for e in orvane.trace.events(path, **bounds)]
             self.assertEqual(kept, [t for t in stamps
                                     if bounds.get("begin", t) <= t <= bounds.get("end", t)])
+
+
+    def test_documented_examples(self):
+        import dask
+        with dask.config.set(scheduler="sync"):
+            for module in (orvane.trace, orvane.dask):
+                with self.subTest(module=module.__name__):
+                    result = doctest.testmod(module, extraglobs={"trace_dir": WORK / "fleet/r1"})
+                    self.assertEqual((result.failed, result.attempted > 0), (0, True))
+            docs = doctest.testfile(str(TESTS.parent / "docs/traces.md"), module_relative=False,
+                                    extraglobs={"trace_dir": WORK / "fleet/r1"})
+            self.assertEqual((docs.failed, docs.attempted > 0), (0, True))
 
 
 class WrittenTrace(unittest.TestCase):
