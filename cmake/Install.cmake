@@ -7,7 +7,7 @@
 #                                             Orvane::KaMessageFormatter, Orvane::ovfmt
 #   LIBDIR/pkgconfig/                         orvane-host.pc and orvane.pc
 #   share/man/man1/ovfmt.1                    generated from ovfmt --help and --version
-#   ORVANE_INSTALL_PYTHONDIR/orvane.*.so      the Python module (python/), when built
+#   ORVANE_INSTALL_PYTHONDIR/orvane/          the Python package (python/), when built
 # Every path inside the installed files is relative to the prefix, so an installed tree
 # still works after it is moved.
 include(CMakePackageConfigHelpers)

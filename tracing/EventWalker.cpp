@@ -3,6 +3,21 @@
 #include <algorithm>
 
 namespace Orvane::tracing {
+
+bool nsFromOrigin(const bt_clock_snapshot* snapshot, std::int64_t& ns) {
+  return snapshot && bt_clock_snapshot_get_ns_from_origin(snapshot, &ns) ==
+                         BT_CLOCK_SNAPSHOT_GET_NS_FROM_ORIGIN_STATUS_OK;
+}
+
+EventInfo eventInfoOf(const bt_message* message) {
+  const bt_event* event = bt_message_event_borrow_event_const(message);
+  EventInfo info;
+  info.name = bt_event_class_get_name(bt_event_borrow_class_const(event));
+  if (bt_message_event_borrow_stream_class_default_clock_class_const(message))
+    info.hasTimestamp = nsFromOrigin(bt_message_event_borrow_default_clock_snapshot_const(message),
+                                     info.timestampNs);
+  return info;
+}
 namespace {
 
 bool isByteArray(const bt_field_class* fieldClass) {

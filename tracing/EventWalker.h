@@ -14,6 +14,14 @@
 
 namespace Orvane::tracing {
 
+/// The nanoseconds from the clock's origin of `snapshot` into `ns`; false when there is
+/// no snapshot or it lies too far from the origin.
+bool nsFromOrigin(const bt_clock_snapshot* snapshot, std::int64_t& ns);
+
+/// The name and timestamp of the event an event message carries (the host is left for
+/// the caller, who may know it already).
+EventInfo eventInfoOf(const bt_message* message);
+
 /// Walks events for one reader. What each structure class's members are (plain, typed
 /// with which id, or a hidden length) is worked out once per class and event class, not
 /// per event. One walker serves one thread.

@@ -6,12 +6,6 @@
 namespace Orvane::tracing {
 namespace {
 
-/// The nanoseconds from the origin of `snapshot`, when it has them.
-bool nsFromOrigin(const bt_clock_snapshot* snapshot, std::int64_t& ns) {
-  return snapshot && bt_clock_snapshot_get_ns_from_origin(snapshot, &ns) ==
-                         BT_CLOCK_SNAPSHOT_GET_NS_FROM_ORIGIN_STATUS_OK;
-}
-
 /// What a discarded-events or discarded-packets message says.
 struct Discarded {
   const bt_stream* stream = nullptr;
@@ -71,12 +65,8 @@ void MessagePrinter::print(const bt_message* message) {
 
 void MessagePrinter::printEvent(const bt_message* message) {
   const bt_event* event = bt_message_event_borrow_event_const(message);
-  EventInfo info;
-  info.name = bt_event_class_get_name(bt_event_borrow_class_const(event));
+  EventInfo info = eventInfoOf(message);
   info.host = hostOf(bt_event_borrow_stream_const(event));
-  if (bt_message_event_borrow_stream_class_default_clock_class_const(message))
-    info.hasTimestamp = nsFromOrigin(bt_message_event_borrow_default_clock_snapshot_const(message),
-                                     info.timestampNs);
   if (json_)
     walker_.walk(event, info, jsonLayout_);
   else
