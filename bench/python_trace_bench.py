@@ -2,7 +2,7 @@
 """Reading traces from Python: orvane.trace against a plain bt2 loop, and a fleet on Dask
 with two workers against one.
 
-    /usr/bin/python3 bench/trace_bench.py --build build/bench [--events 1000000]
+    /usr/bin/python3 bench/python_trace_bench.py --build build/bench [--events 1000000]
 
 Records, with scripts/trace-record and the example speaker's --bench mode, one trace of
 EVENTS events (each a PGO prefix, a BPK peer, a BNH next hop and an integer) and four of
