@@ -29,10 +29,11 @@ unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthEthColonSeparated(const unsigned char*) { return 6; }
 
+constexpr LabeledField kEthMaskFields[] = {{"", &kEthField}, {"/", &kEthField}, {""}};
 unsigned formatEthMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendEth, "/", appendEth);
+  return formatFields(kEthMaskFields, p, os);
 }
-unsigned lengthEthMask(const unsigned char* p) { return measureFields(p, lengthEth, lengthEth); }
+unsigned lengthEthMask(const unsigned char* p) { return measureFields(kEthMaskFields, p); }
 
 unsigned formatEthSegment(const unsigned char* p, std::ostream& os) {
   return printEthSegment(p, os);

@@ -53,18 +53,22 @@ unsigned lengthIpGenAddrOpt(const unsigned char* p) {
   }
 }
 
+constexpr LabeledField kIpGenAddrWithFullMaskFields[] = {
+    {"", &kIpGenAddrField}, {"/", &kIpGenAddrField}, {""}};
 unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendIpGenAddr, "/", appendIpGenAddr);
+  return formatFields(kIpGenAddrWithFullMaskFields, p, os);
 }
 unsigned lengthIpGenAddrWithFullMask(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddr, lengthIpGenAddr);
+  return measureFields(kIpGenAddrWithFullMaskFields, p);
 }
 
+constexpr LabeledField kIpGenAddrOptWithFullMaskFields[] = {
+    {"", &kIpGenAddrOptField}, {"/", &kIpGenAddrOptField}, {""}};
 unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendIpGenAddrOpt, "/", appendIpGenAddrOpt);
+  return formatFields(kIpGenAddrOptWithFullMaskFields, p, os);
 }
 unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddrOpt, lengthIpGenAddrOpt);
+  return measureFields(kIpGenAddrOptWithFullMaskFields, p);
 }
 
 } // namespace Orvane

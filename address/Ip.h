@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -53,5 +54,14 @@ ORVANE_API unsigned lengthIp6Prefix(const unsigned char* p); ///< 17
 /// "IP": IPv4 address, ":" and the native u16 port, e.g. 10.0.0.1:179. Returns 6.
 ORVANE_API unsigned formatIpAndPort(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIpAndPort(const unsigned char* p); ///< 6
+
+// As fields of composite keys.
+inline constexpr FieldKind kIpField{formatIp, lengthIp, appendIp, "IPv4 address (native u32)", 4};
+inline constexpr FieldKind kIp6Field{formatIp6Addr, lengthIp6Addr, appendIp6Addr, "IPv6 address",
+                                     16};
+inline constexpr FieldKind kIpPrefixField{formatIpPrefix, lengthIpPrefix, appendIpPrefix,
+                                          "IPv4 prefix (address, length byte)", 5};
+inline constexpr FieldKind kIpAndPortField{formatIpAndPort, lengthIpAndPort, appendIpAndPort,
+                                           "IPv4 address and u16 port", 6};
 
 } // namespace Orvane

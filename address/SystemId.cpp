@@ -12,11 +12,11 @@ unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthIsisSystemId(const unsigned char*) { return 6; }
 
+constexpr LabeledField kDsfSystemIdFields[] = {
+    {"SystemId(", &kU8Field}, {", ", &kU16Field}, {", ", &kStringField}, {")"}};
 unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "SystemId(", formatU8, ", ", formatU16, ", ", formatString, ")");
+  return formatFields(kDsfSystemIdFields, p, os);
 }
-unsigned lengthDsfSystemId(const unsigned char* p) {
-  return measureFields(p, lengthU8, lengthU16, lengthString);
-}
+unsigned lengthDsfSystemId(const unsigned char* p) { return measureFields(kDsfSystemIdFields, p); }
 
 } // namespace Orvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
@@ -11,6 +12,8 @@ namespace Orvane {
 ORVANE_API unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
 
+/// The fields of "DSFID", in order (FieldKind.h).
+extern const LabeledField kDsfSystemIdFields[];
 /// "DSFID": "SystemId(" u8 ", " u16 ", " string ")" through the host's base formatters.
 /// Returns the three fields' counts added.
 ORVANE_API unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os);

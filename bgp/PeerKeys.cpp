@@ -1,10 +1,13 @@
 #include "bgp/PeerKeys.h"
 
-#include "bgp/FieldLayout.h"
+#include "address/Ethernet.h"
+#include "address/GenericAddress.h"
+#include "address/Ip.h"
 #include "bgp/RouteKey.h"
 #include "bgp/RouteKeyLayout.h"
 #include "bgp/RouteKeyWrappers.h"
 #include "registry/Bytes.h"
+#include "registry/Fields.h"
 
 #include <cstdint>
 #include <iterator>
@@ -16,18 +19,18 @@ constexpr unsigned kPeerBodyOffset = 1;
 constexpr unsigned kBmpNameOffset = 3;
 
 constexpr LabeledField kInterfaceName{"%", &kStringField};
-constexpr LabeledField kIpv4InParentheses{" (", &kIp4Field};
+constexpr LabeledField kIpv4InParentheses{" (", &kIpField};
 
 // Indexed by peer-key type.
 constexpr FieldLayout kPeerKeyLayouts[] = {
     /* 0 */ {},
-    /* 1 */ {{{"", &kGenAddrField}, kInterfaceName}},
-    /* 2 */ {{{"", &kGenAddrField}}},
+    /* 1 */ {{{"", &kIpGenAddrField}, kInterfaceName}},
+    /* 2 */ {{{"", &kIpGenAddrField}}},
     /* 3 */ {{{"", &kStringField}}},
-    /* 4 */ {{{"", &kGenAddrField}, kIpv4InParentheses}, ")"},
-    /* 5 */ {{{"", &kGenAddrOptField}, kInterfaceName}},
-    /* 6 */ {{{"", &kGenAddrOptField}}},
-    /* 7 */ {{{"", &kGenAddrOptField}, kIpv4InParentheses}, ")"},
+    /* 4 */ {{{"", &kIpGenAddrField}, kIpv4InParentheses}, ")"},
+    /* 5 */ {{{"", &kIpGenAddrOptField}, kInterfaceName}},
+    /* 6 */ {{{"", &kIpGenAddrOptField}}},
+    /* 7 */ {{{"", &kIpGenAddrOptField}, kIpv4InParentheses}, ")"},
 };
 
 const FieldLayout& peerKeyLayout(const unsigned char* p) {
@@ -41,10 +44,10 @@ unsigned short bmpSafi(const unsigned char* p) { return p[2]; }
 } // namespace
 
 unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os) {
-  return formatLayout(peerKeyLayout(p), p, kPeerBodyOffset, os);
+  return formatFields(peerKeyLayout(p).fields, p, os, kPeerBodyOffset);
 }
 unsigned lengthBgpPeerKey(const unsigned char* p) {
-  return measureLayout(peerKeyLayout(p), p, kPeerBodyOffset);
+  return measureFields(peerKeyLayout(p).fields, p, kPeerBodyOffset);
 }
 
 unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {

@@ -48,6 +48,9 @@ unsigned formatMembershipTarget(const unsigned char* p, std::ostream& os) {
   return 9;
 }
 
+constexpr FieldKind kMembershipTargetField{formatMembershipTarget, fixedLength<9>, nullptr,
+                                           "route target, prefix length byte", 9};
+
 } // namespace
 
 void printRouteDistinguisher(unsigned long long rd, TextRun& text) {
@@ -119,9 +122,13 @@ unsigned formatRouteTarget(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthRouteTarget(const unsigned char*) { return 8; }
 
+constexpr LabeledField kRtMembershipRouteKeyFields[] = {
+    {"origin: ", &kU32FixedField}, {";", &kMembershipTargetField}, {""}};
 unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "origin: ", formatU32, ";", formatMembershipTarget);
+  return formatFields(kRtMembershipRouteKeyFields, p, os);
 }
-unsigned lengthRtMembershipRouteKey(const unsigned char*) { return 13; }
+unsigned lengthRtMembershipRouteKey(const unsigned char* p) {
+  return measureFields(kRtMembershipRouteKeyFields, p);
+}
 
 } // namespace Orvane

@@ -18,7 +18,7 @@ unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsign
   const RouteKeyLayout* layout = findRouteKeyLayout(afi, safi, key);
   if (!layout)
     return kInvalidLength;
-  return formatLayout(layout->fields, key, layout->firstFieldOffset(), text);
+  return printFields(layout->fields.fields, key, layout->firstFieldOffset(), text);
 }
 
 } // namespace Orvane

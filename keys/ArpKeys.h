@@ -3,11 +3,14 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
 namespace Orvane {
 
+/// The fields of "ARPICK", in order (FieldKind.h).
+extern const LabeledField kArpInputConfigKeyFields[];
 /// "ARPICK": "[" address as "IGO" "][" interface string "]". An address tag other than
 /// 1 or 2 makes the address one byte long and print [unknown].
 ORVANE_API unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os);
@@ -20,11 +23,15 @@ ORVANE_API unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostre
 /// The key, 6, lengthU8 and lengthU32, plus two lengthU32 when the flag byte is 1.
 ORVANE_API unsigned lengthArpInputConfigEntry(const unsigned char* p);
 
+/// The fields of "ARPIPK", in order (FieldKind.h).
+extern const LabeledField kArpInputPriorityKeyFields[];
 /// "ARPIPK": "[" u8 "][" u32 "]".
 ORVANE_API unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os);
 /// lengthU8 + lengthU32.
 ORVANE_API unsigned lengthArpInputPriorityKey(const unsigned char* p);
 
+/// The fields of "ARPIPIK", in order (FieldKind.h).
+extern const LabeledField kArpInputPriorityInterfaceKeyFields[];
 /// "ARPIPIK": an "ARPIPK" key, then "[" interface string "]".
 ORVANE_API unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os);
 /// lengthArpInputPriorityKey + lengthString.

@@ -8,71 +8,77 @@
 
 namespace Orvane {
 
+constexpr LabeledField kDuidMacBindingKeyFields[] = {{"duid(type: ", &kU16Field},
+                                                     {", hwtype: ", &kU16Field},
+                                                     {", lladdr: ", &kEthField},
+                                                     {", uuid: ", &kStringField},
+                                                     {", entno: ", &kU32Field},
+                                                     {", entId: ", &kStringField},
+                                                     {")"}};
 unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "duid(type: ", formatU16, ", hwtype: ", formatU16,
-                      ", lladdr: ", appendEth, ", uuid: ", formatString, ", entno: ", formatU32,
-                      ", entId: ", formatString, ")");
+  return formatFields(kDuidMacBindingKeyFields, p, os);
 }
-// The host is asked for the width of the first u16 only; both count with it.
 unsigned lengthDuidMacBindingKey(const unsigned char* p) {
-  const unsigned types = 2 * lengthU16(p);
-  return types + measureFields(at(p, types), lengthEth, lengthString, lengthU32, lengthString);
+  return measureFields(kDuidMacBindingKeyFields, p);
 }
 
+constexpr LabeledField kIpMacV2Fields[] = {
+    {"[", &kIpGenAddrField}, {",", &kEthField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
 unsigned formatIpMacV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendIpGenAddr, ",", appendEth, ",", formatU32, ",", formatU8,
-                      "]");
+  return formatFields(kIpMacV2Fields, p, os);
 }
-unsigned lengthIpMacV2(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddr, lengthEth, lengthU32, lengthU8);
-}
+unsigned lengthIpMacV2(const unsigned char* p) { return measureFields(kIpMacV2Fields, p); }
 
+constexpr LabeledField kIpMacV2OptimizedFields[] = {
+    {"[", &kIpGenAddrOptField}, {",", &kEthField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
 unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendIpGenAddrOpt, ",", appendEth, ",", formatU32, ",", formatU8,
-                      "]");
+  return formatFields(kIpMacV2OptimizedFields, p, os);
 }
 unsigned lengthIpMacV2Optimized(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddrOpt, lengthEth, lengthU32, lengthU8);
+  return measureFields(kIpMacV2OptimizedFields, p);
 }
 
+constexpr LabeledField kMacVtepFields[] = {
+    {"[", &kEthField}, {",", &kIpField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
 unsigned formatMacVtep(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendEth, ",", appendIp, ",", formatU32, ",", formatU8, "]");
+  return formatFields(kMacVtepFields, p, os);
 }
-unsigned lengthMacVtep(const unsigned char* p) {
-  return measureFields(p, lengthEth, lengthIp, lengthU32, lengthU8);
-}
+unsigned lengthMacVtep(const unsigned char* p) { return measureFields(kMacVtepFields, p); }
 
+constexpr LabeledField kMacVlanPairFields[] = {{"[", &kEthField}, {",", &kU16Field}, {"]"}};
 unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendEth, ",", formatU16, "]");
+  return formatFields(kMacVlanPairFields, p, os);
 }
-unsigned lengthMacVlanPair(const unsigned char* p) {
-  return measureFields(p, lengthEth, lengthU16);
-}
+unsigned lengthMacVlanPair(const unsigned char* p) { return measureFields(kMacVlanPairFields, p); }
 
+constexpr LabeledField kVlanIpPairFields[] = {{"[", &kU16Field}, {",", &kIpGenAddrField}, {"]"}};
 unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU16, ",", appendIpGenAddr, "]");
+  return formatFields(kVlanIpPairFields, p, os);
 }
-unsigned lengthVlanIpPair(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenAddr);
-}
+unsigned lengthVlanIpPair(const unsigned char* p) { return measureFields(kVlanIpPairFields, p); }
 
+constexpr LabeledField kVlanIpPairOptimizedFields[] = {
+    {"[", &kU16Field}, {",", &kIpGenAddrOptField}, {"]"}};
 unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU16, ",", appendIpGenAddrOpt, "]");
+  return formatFields(kVlanIpPairOptimizedFields, p, os);
 }
 unsigned lengthVlanIpPairOptimized(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenAddrOpt);
+  return measureFields(kVlanIpPairOptimizedFields, p);
 }
 
+constexpr LabeledField kVrfIdPairFields[] = {{"(", &kU32FixedField}, {"-", &kU32FixedField}, {")"}};
 unsigned formatVrfIdPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU32, "-", formatU32, ")");
+  return formatFields(kVrfIdPairFields, p, os);
 }
-unsigned lengthVrfIdPair(const unsigned char*) { return 8; }
+unsigned lengthVrfIdPair(const unsigned char* p) { return measureFields(kVrfIdPairFields, p); }
 
+constexpr LabeledField kVniSourcePairFields[] = {
+    {"[", &kU32Field}, {",", &kStringField}, {",", &kStringField}, {"]"}};
 unsigned formatVniSourcePair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU32, ",", formatString, ",", formatString, "]");
+  return formatFields(kVniSourcePairFields, p, os);
 }
 unsigned lengthVniSourcePair(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthString, lengthString);
+  return measureFields(kVniSourcePairFields, p);
 }
 
 } // namespace Orvane

@@ -5,59 +5,76 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
+namespace {
+
+// The two endpoints of a connection tuple, before its protocol byte.
+constexpr LabeledField kEndpointsFields[] = {
+    {"", &kIpAndPortField}, {" -> ", &kIpAndPortField}, {""}};
+
+} // namespace
 
 // "C" and "NSK" print each address and port as "IP" does, with the port inserted
 // directly.
 unsigned formatConnTuple(const unsigned char* p, std::ostream& os) {
-  const unsigned endpoints = formatFields(p, os, appendIpAndPort, " -> ", appendIpAndPort);
+  const unsigned endpoints = formatFields(kEndpointsFields, p, os);
   os << ',' << static_cast<unsigned>(p[endpoints]);
   return lengthConnTuple(p);
 }
 unsigned lengthConnTuple(const unsigned char*) { return 13; }
 
+constexpr LabeledField kNatStaticKeyFields[] = {
+    {"acl: ", &kStringField}, {", addr: ", &kIpAndPortField}, {""}};
 unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "acl: ", formatString, ", addr: ", appendIpAndPort);
+  return formatFields(kNatStaticKeyFields, p, os);
 }
 unsigned lengthNatStaticKey(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthIpAndPort);
+  return measureFields(kNatStaticKeyFields, p);
 }
 
+constexpr LabeledField kNatDynamicKeyFields[] = {
+    {"acl: ", &kStringField}, {", group: ", &kU16Field}, {""}};
 unsigned formatNatDynamicKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "acl: ", formatString, ", group: ", formatU16);
+  return formatFields(kNatDynamicKeyFields, p, os);
 }
 unsigned lengthNatDynamicKey(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthU16);
+  return measureFields(kNatDynamicKeyFields, p);
 }
 
+constexpr FieldKind kConnTupleField{formatConnTuple, lengthConnTuple, nullptr,
+                                    "connection tuple (C)", 13};
+constexpr LabeledField kNatDynamicConnFields[] = {
+    {"intf: ", &kStringField}, {", conn: ", &kConnTupleField}, {""}};
 unsigned formatNatDynamicConn(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "intf: ", formatString, ", conn: ", formatConnTuple);
+  return formatFields(kNatDynamicConnFields, p, os);
 }
 unsigned lengthNatDynamicConn(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthConnTuple);
+  return measureFields(kNatDynamicConnFields, p);
 }
 
+constexpr LabeledField kUpnpPortMapKeyFields[] = {
+    {"(", &kIpField}, {":", &kU16Field}, {":", &kU8Field}, {")"}};
 unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", appendIp, ":", formatU16, ":", formatU8, ")");
+  return formatFields(kUpnpPortMapKeyFields, p, os);
 }
 unsigned lengthUpnpPortMapKey(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthU16, lengthU8);
+  return measureFields(kUpnpPortMapKeyFields, p);
 }
 
+constexpr LabeledField kIpFlowKeyFields[] = {{"vrfId:", &kU32Field},      {" vlanId:", &kU16Field},
+                                             {" srcAddr:", &kIpField},    {" dstAddr:", &kIpField},
+                                             {" ipProtocol:", &kU8Field}, {" srcPort:", &kU16Field},
+                                             {" dstPort:", &kU16Field},   {""}};
 unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "vrfId:", formatU32, " vlanId:", formatU16, " srcAddr:", appendIp,
-                      " dstAddr:", appendIp, " ipProtocol:", formatU8, " srcPort:", formatU16,
-                      " dstPort:", formatU16);
+  return formatFields(kIpFlowKeyFields, p, os);
 }
-unsigned lengthIpFlowKey(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthU16, lengthIp, lengthIp, lengthU8, lengthU16,
-                       lengthU16);
-}
+unsigned lengthIpFlowKey(const unsigned char* p) { return measureFields(kIpFlowKeyFields, p); }
 
+constexpr FieldKind kIpFlowKeyField{formatIpFlowKey, lengthIpFlowKey, nullptr, "IP flow key (IFK)"};
+constexpr LabeledField kHoIpFlowKeyFields[] = {
+    {"", &kIpFlowKeyField}, {" intf:", &kStringField}, {""}};
 unsigned formatHoIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatIpFlowKey, " intf:", formatString);
+  return formatFields(kHoIpFlowKeyFields, p, os);
 }
-unsigned lengthHoIpFlowKey(const unsigned char* p) {
-  return measureFields(p, lengthIpFlowKey, lengthString);
-}
+unsigned lengthHoIpFlowKey(const unsigned char* p) { return measureFields(kHoIpFlowKeyFields, p); }
 
 } // namespace Orvane

@@ -21,22 +21,22 @@ unsigned formatEncap(const unsigned char* p, std::ostream& os) {
     os << "0x" << std::hex << tpid << std::dec << ":p" << priority << ":" << vlanId;
   return lengthEncap(p);
 }
-unsigned lengthEncap(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthU16, lengthU8);
-}
+unsigned lengthEncap(const unsigned char* p) { return lengthU16(p) * 2 + lengthU8(p); }
 
+constexpr LabeledField kIntfEncapFields[] = {
+    {"", &kStringField}, {"(", &kU16Field}, {",", &kU16Field}, {")"}};
 unsigned formatIntfEncap(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatString, "(", formatU16, ",", formatU16, ")");
+  return formatFields(kIntfEncapFields, p, os);
 }
-unsigned lengthIntfEncap(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthU16, lengthU16);
-}
+unsigned lengthIntfEncap(const unsigned char* p) { return measureFields(kIntfEncapFields, p); }
 
+constexpr FieldKind kEncapField{formatEncap, lengthEncap, nullptr,
+                                "VLAN tag (u16 id, u16 TPID, u8 priority)", 5};
+constexpr LabeledField kIntfEncapV2Fields[] = {
+    {"", &kStringField}, {"(", &kEncapField}, {",", &kEncapField}, {")"}};
 unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatString, "(", formatEncap, ",", formatEncap, ")");
+  return formatFields(kIntfEncapV2Fields, p, os);
 }
-unsigned lengthIntfEncapV2(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthEncap, lengthEncap);
-}
+unsigned lengthIntfEncapV2(const unsigned char* p) { return measureFields(kIntfEncapV2Fields, p); }
 
 } // namespace Orvane

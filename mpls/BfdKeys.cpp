@@ -5,30 +5,30 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-namespace {
-
-template <AppendPtr appendAddress> unsigned formatPeer(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "peer(ip:", appendAddress, ", vrf:", formatString,
-                      ", srcip:", appendAddress, ", intf:", formatString, ", tunnelId:", formatU64,
-                      ", type:", formatU32, ")");
-}
-template <LengthPtr lengthAddress> unsigned measurePeer(const unsigned char* p) {
-  return measureFields(p, lengthAddress, lengthString, lengthAddress, lengthString, lengthU64,
-                       lengthU32);
-}
-
-} // namespace
-
+constexpr LabeledField kBfdPeerFields[] = {{"peer(ip:", &kIpGenAddrField},
+                                           {", vrf:", &kStringField},
+                                           {", srcip:", &kIpGenAddrField},
+                                           {", intf:", &kStringField},
+                                           {", tunnelId:", &kU64Field},
+                                           {", type:", &kU32Field},
+                                           {")"}};
 unsigned formatBfdPeer(const unsigned char* p, std::ostream& os) {
-  return formatPeer<appendIpGenAddr>(p, os);
+  return formatFields(kBfdPeerFields, p, os);
 }
-unsigned lengthBfdPeer(const unsigned char* p) { return measurePeer<lengthIpGenAddr>(p); }
+unsigned lengthBfdPeer(const unsigned char* p) { return measureFields(kBfdPeerFields, p); }
 
+constexpr LabeledField kBfdPeerOptimizedFields[] = {{"peer(ip:", &kIpGenAddrOptField},
+                                                    {", vrf:", &kStringField},
+                                                    {", srcip:", &kIpGenAddrOptField},
+                                                    {", intf:", &kStringField},
+                                                    {", tunnelId:", &kU64Field},
+                                                    {", type:", &kU32Field},
+                                                    {")"}};
 unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPeer<appendIpGenAddrOpt>(p, os);
+  return formatFields(kBfdPeerOptimizedFields, p, os);
 }
 unsigned lengthBfdPeerOptimized(const unsigned char* p) {
-  return measurePeer<lengthIpGenAddrOpt>(p);
+  return measureFields(kBfdPeerOptimizedFields, p);
 }
 
 } // namespace Orvane

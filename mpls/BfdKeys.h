@@ -7,17 +7,22 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
 namespace Orvane {
 
+/// The fields of "BP", in order (FieldKind.h).
+extern const LabeledField kBfdPeerFields[];
 /// "BP": "peer(ip:" ip ", vrf:" vrf ", srcip:" srcip ", intf:" intf ", tunnelId:" u64
 /// ", type:" u32 ")". Returns the six fields' counts added.
 ORVANE_API unsigned formatBfdPeer(const unsigned char* p, std::ostream& os);
 /// 21 + lengthString + 21 + lengthString + lengthU64 + lengthU32, each at its offset.
 ORVANE_API unsigned lengthBfdPeer(const unsigned char* p);
 
+/// The fields of "BPO", in order (FieldKind.h).
+extern const LabeledField kBfdPeerOptimizedFields[];
 /// "BPO": as "BP" with Opt addresses.
 ORVANE_API unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os);
 /// As lengthBfdPeer with the two addresses sized by their tags.

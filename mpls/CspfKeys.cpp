@@ -36,33 +36,42 @@ unsigned lengthCspfVertex(const unsigned char* p) {
   return isValidVertex(p[0]) ? kVertexSizes[p[0]] : kInvalidLength;
 }
 
+// A fixed 4 for the id: the size table alone decides this key's size.
+constexpr LabeledField kCspfPathKeyFields[] = {
+    {"dst=", &kCspfVertexField}, {", id=", &kU32FixedField}, {""}};
 unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "dst=", formatCspfVertex, ", id=", formatU32);
+  return formatFields(kCspfPathKeyFields, p, os);
 }
-unsigned lengthCspfPathKey(const unsigned char* p) {
-  // A fixed 4 for the id: the size table alone decides this key's size.
-  return measureFields(p, lengthCspfVertex, 4u);
-}
+unsigned lengthCspfPathKey(const unsigned char* p) { return measureFields(kCspfPathKeyFields, p); }
+
+// The client key's bodies, after its kind byte.
+constexpr FieldKind kPathKeyField{formatCspfPathKey, lengthCspfPathKey, nullptr, "CSPF path key"};
+constexpr FieldKind kP2mpPathKeyField{formatCspfP2mpPathKey, lengthCspfP2mpPathKey, nullptr,
+                                      "CSPF P2MP path key", 4};
+constexpr LabeledField kPathKeyFields[] = {{"pathKey=<", &kPathKeyField}, {">"}};
+constexpr LabeledField kP2mpPathKeyFields[] = {{"p2mpPathKey=<", &kP2mpPathKeyField}, {">"}};
 
 unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os) {
   switch (p[0]) {
-  case kPathKey: return 1 + formatFields(p + 1, os, "pathKey=<", formatCspfPathKey, ">");
-  case kP2mpPathKey:
-    return 1 + formatFields(p + 1, os, "p2mpPathKey=<", formatCspfP2mpPathKey, ">");
+  case kPathKey: return formatFields(kPathKeyFields, p, os, 1);
+  case kP2mpPathKey: return formatFields(kP2mpPathKeyFields, p, os, 1);
   default: return kInvalidLength;
   }
 }
 unsigned lengthCspfClientPathKey(const unsigned char* p) {
   switch (p[0]) {
-  case kPathKey: return 1 + lengthCspfPathKey(p + 1);
-  case kP2mpPathKey: return 1 + lengthCspfP2mpPathKey(p + 1);
+  case kPathKey: return measureFields(kPathKeyFields, p, 1);
+  case kP2mpPathKey: return measureFields(kP2mpPathKeyFields, p, 1);
   default: return kInvalidLength;
   }
 }
 
+constexpr LabeledField kCspfP2mpPathKeyFields[] = {{"id=", &kU32FixedField}, {""}};
 unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "id=", formatU32);
+  return formatFields(kCspfP2mpPathKeyFields, p, os);
 }
-unsigned lengthCspfP2mpPathKey(const unsigned char*) { return 4; }
+unsigned lengthCspfP2mpPathKey(const unsigned char* p) {
+  return measureFields(kCspfP2mpPathKeyFields, p);
+}
 
 } // namespace Orvane

@@ -115,9 +115,11 @@ unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthGlobalFecId(const unsigned char*) { return 10; }
 
+constexpr LabeledField kLfibViaKeyFields[] = {
+    {"(", &kU8FixedField}, {",", &kU32FixedField}, {",", &kU8FixedField}, {")"}};
 unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU8, ",", formatU32, ",", formatU8, ")");
+  return formatFields(kLfibViaKeyFields, p, os);
 }
-unsigned lengthLfibViaKey(const unsigned char*) { return 6; }
+unsigned lengthLfibViaKey(const unsigned char* p) { return measureFields(kLfibViaKeyFields, p); }
 
 } // namespace Orvane

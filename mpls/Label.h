@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -50,6 +51,8 @@ ORVANE_API unsigned lengthMplsRouterId(const unsigned char* p); ///< 7
 ORVANE_API unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthGlobalFecId(const unsigned char* p); ///< 10
 
+/// The fields of "LVK", in order (FieldKind.h).
+extern const LabeledField kLfibViaKeyFields[];
 /// "LVK": "(" u8 "," u32 "," u8 ")" through the host's base formatters. Returns 6.
 ORVANE_API unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthLfibViaKey(const unsigned char* p); ///< 6

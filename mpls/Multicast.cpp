@@ -19,14 +19,6 @@ namespace {
 // Flag positions that together decide the trailing "E".
 constexpr unsigned kFlagW = 1, kFlagS = 2;
 
-// Every multicast key is "(" first ", " second ")" with the two parts alike.
-template <AppendPtr appendPart> unsigned formatPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", appendPart, ", ", appendPart, ")");
-}
-template <LengthPtr lengthPart> unsigned measurePair(const unsigned char* p) {
-  return measureFields(p, lengthPart, lengthPart);
-}
-
 // Join states: 0, 1, then every other value.
 const char* joinStateName(const unsigned char* p, const char* const (&names)[3]) {
   const uint32_t state = load<uint32_t>(p);
@@ -35,16 +27,20 @@ const char* joinStateName(const unsigned char* p, const char* const (&names)[3])
 
 } // namespace
 
+constexpr LabeledField kMRouteKeyFields[] = {
+    {"(", &kIpGenAddrField}, {", ", &kIpGenAddrField}, {")"}};
 unsigned formatMRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenAddr>(p, os);
+  return formatFields(kMRouteKeyFields, p, os);
 }
-unsigned lengthMRouteKey(const unsigned char* p) { return measurePair<lengthIpGenAddr>(p); }
+unsigned lengthMRouteKey(const unsigned char* p) { return measureFields(kMRouteKeyFields, p); }
 
+constexpr LabeledField kMRouteKeyOptimizedFields[] = {
+    {"(", &kIpGenAddrOptField}, {", ", &kIpGenAddrOptField}, {")"}};
 unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenAddrOpt>(p, os);
+  return formatFields(kMRouteKeyOptimizedFields, p, os);
 }
 unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
-  return measurePair<lengthIpGenAddrOpt>(p);
+  return measureFields(kMRouteKeyOptimizedFields, p);
 }
 
 unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
@@ -75,21 +71,31 @@ unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os) 
 }
 unsigned lengthMRouteIntfRptJoinState(const unsigned char*) { return 4; }
 
+constexpr LabeledField kMfibRouteKeyFields[] = {
+    {"(", &kIpPrefixField}, {", ", &kIpPrefixField}, {")"}};
 unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpPrefix>(p, os);
+  return formatFields(kMfibRouteKeyFields, p, os);
 }
-unsigned lengthMfibRouteKey(const unsigned char* p) { return measurePair<lengthIpPrefix>(p); }
+unsigned lengthMfibRouteKey(const unsigned char* p) {
+  return measureFields(kMfibRouteKeyFields, p);
+}
 
+constexpr LabeledField kMfibGenRouteKeyFields[] = {
+    {"(", &kIpGenPrefixField}, {", ", &kIpGenPrefixField}, {")"}};
 unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenPrefix>(p, os);
+  return formatFields(kMfibGenRouteKeyFields, p, os);
 }
-unsigned lengthMfibGenRouteKey(const unsigned char* p) { return measurePair<lengthIpGenPrefix>(p); }
+unsigned lengthMfibGenRouteKey(const unsigned char* p) {
+  return measureFields(kMfibGenRouteKeyFields, p);
+}
 
+constexpr LabeledField kMfibGenRouteKeyOptimizedFields[] = {
+    {"(", &kIpGenPrefixOptimizedField}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
 unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenPrefixOptimized>(p, os);
+  return formatFields(kMfibGenRouteKeyOptimizedFields, p, os);
 }
 unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p) {
-  return measurePair<lengthIpGenPrefixOptimized>(p);
+  return measureFields(kMfibGenRouteKeyOptimizedFields, p);
 }
 
 unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os) {

@@ -6,41 +6,28 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-namespace {
-
-template <AppendPtr appendPrefix>
-unsigned formatRibRoute(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU32, ", ", appendPrefix, ")");
-}
-
-template <AppendPtr appendPrefix>
-unsigned formatUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "vrf:", formatU16, ", ipAddr:", appendPrefix);
-}
-
-} // namespace
-
+constexpr LabeledField kRibRouteKeyFields[] = {
+    {"(", &kU32Field}, {", ", &kIpGenPrefixField}, {")"}};
 unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatRibRoute<appendIpGenPrefix>(p, os);
+  return formatFields(kRibRouteKeyFields, p, os);
 }
-unsigned lengthRibRouteKey(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthIpGenPrefix);
-}
+unsigned lengthRibRouteKey(const unsigned char* p) { return measureFields(kRibRouteKeyFields, p); }
 
+constexpr LabeledField kRibRouteKeyOptimizedFields[] = {
+    {"(", &kU32Field}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
 unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatRibRoute<appendIpGenPrefixOptimized>(p, os);
+  return formatFields(kRibRouteKeyOptimizedFields, p, os);
 }
 unsigned lengthRibRouteKeyOptimized(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthIpGenPrefixOptimized);
+  return measureFields(kRibRouteKeyOptimizedFields, p);
 }
 
+constexpr LabeledField kRibViaKeyFields[] = {
+    {"(id:", &kU64Field}, {", vrfId:", &kU32Field}, {", proto:", &kRoutingProtocolField}, {")"}};
 unsigned formatRibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(id:", formatU64, ", vrfId:", formatU32,
-                      ", proto:", formatRoutingProtocol, ")");
+  return formatFields(kRibViaKeyFields, p, os);
 }
-unsigned lengthRibViaKey(const unsigned char* p) {
-  return measureFields(p, lengthU64, lengthU32, lengthRoutingProtocol);
-}
+unsigned lengthRibViaKey(const unsigned char* p) { return measureFields(kRibViaKeyFields, p); }
 
 unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
   printName(os, routingProtocolNames, p[0]);
@@ -48,32 +35,37 @@ unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthRoutingProtocol(const unsigned char*) { return 1; }
 
+constexpr LabeledField kAfProtoFields[] = {{"(", &kAfField}, {",", &kRoutingProtocolField}, {")"}};
 unsigned formatAfProto(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatAf, ",", formatRoutingProtocol, ")");
+  return formatFields(kAfProtoFields, p, os);
 }
-unsigned lengthAfProto(const unsigned char* p) {
-  return measureFields(p, lengthAf, lengthRoutingProtocol);
-}
+unsigned lengthAfProto(const unsigned char* p) { return measureFields(kAfProtoFields, p); }
 
+constexpr LabeledField kAfProtoVrfIdFields[] = {
+    {"(", &kAfField}, {",", &kRoutingProtocolField}, {",", &kU32Field}, {")"}};
 unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatAf, ",", formatRoutingProtocol, ",", formatU32, ")");
+  return formatFields(kAfProtoVrfIdFields, p, os);
 }
 unsigned lengthAfProtoVrfId(const unsigned char* p) {
-  return measureFields(p, lengthAf, lengthRoutingProtocol, lengthU32);
+  return measureFields(kAfProtoVrfIdFields, p);
 }
 
+constexpr LabeledField kIpGenUcastKeyRefFields[] = {
+    {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixField}, {""}};
 unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatUcastKeyRef<appendIpGenPrefix>(p, os);
+  return formatFields(kIpGenUcastKeyRefFields, p, os);
 }
 unsigned lengthIpGenUcastKeyRef(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenPrefix);
+  return measureFields(kIpGenUcastKeyRefFields, p);
 }
 
+constexpr LabeledField kIpGenUcastKeyRefOptimizedFields[] = {
+    {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixOptimizedField}, {""}};
 unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os) {
-  return formatUcastKeyRef<appendIpGenPrefixOptimized>(p, os);
+  return formatFields(kIpGenUcastKeyRefOptimizedFields, p, os);
 }
 unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenPrefixOptimized);
+  return measureFields(kIpGenUcastKeyRefOptimizedFields, p);
 }
 
 } // namespace Orvane

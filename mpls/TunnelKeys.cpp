@@ -6,27 +6,6 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-namespace {
-
-template <AppendPtr appendAddress>
-unsigned formatGenTunnel(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "src:", appendAddress, ", dst:", appendAddress, ", vrf:", formatU32,
-                      ", genId:", formatU64);
-}
-template <LengthPtr lengthAddress> unsigned measureGenTunnel(const unsigned char* p) {
-  return measureFields(p, lengthAddress, lengthAddress, lengthU32, lengthU64);
-}
-
-template <AppendPtr appendAddress>
-unsigned formatPseudowire(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatU32, "/", formatString, "/", appendAddress);
-}
-template <LengthPtr lengthAddress> unsigned measurePseudowire(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthString, lengthAddress);
-}
-
-} // namespace
-
 unsigned formatTunnelKey(const unsigned char* p, std::ostream& os) {
   // The one key of the family whose fields sit at fixed offsets, whatever the host's
   // integer widths, and whose size is a constant.
@@ -39,30 +18,46 @@ unsigned formatTunnelKey(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthTunnelKey(const unsigned char*) { return 20; }
 
+constexpr LabeledField kTunnelKeyGenFields[] = {{"src:", &kIpGenAddrField},
+                                                {", dst:", &kIpGenAddrField},
+                                                {", vrf:", &kU32Field},
+                                                {", genId:", &kU64Field},
+                                                {""}};
 unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os) {
-  return formatGenTunnel<appendIpGenAddr>(p, os);
+  return formatFields(kTunnelKeyGenFields, p, os);
 }
-unsigned lengthTunnelKeyGen(const unsigned char* p) { return measureGenTunnel<lengthIpGenAddr>(p); }
+unsigned lengthTunnelKeyGen(const unsigned char* p) {
+  return measureFields(kTunnelKeyGenFields, p);
+}
 
+constexpr LabeledField kTunnelKeyGenOptimizedFields[] = {{"src:", &kIpGenAddrOptField},
+                                                         {", dst:", &kIpGenAddrOptField},
+                                                         {", vrf:", &kU32Field},
+                                                         {", genId:", &kU64Field},
+                                                         {""}};
 unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os) {
-  return formatGenTunnel<appendIpGenAddrOpt>(p, os);
+  return formatFields(kTunnelKeyGenOptimizedFields, p, os);
 }
 unsigned lengthTunnelKeyGenOptimized(const unsigned char* p) {
-  return measureGenTunnel<lengthIpGenAddrOpt>(p);
+  return measureFields(kTunnelKeyGenOptimizedFields, p);
 }
 
+constexpr LabeledField kPseudowireKeyFields[] = {
+    {"", &kU32Field}, {"/", &kStringField}, {"/", &kIpGenAddrField}, {""}};
 unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os) {
-  return formatPseudowire<appendIpGenAddr>(p, os);
+  return formatFields(kPseudowireKeyFields, p, os);
 }
 unsigned lengthPseudowireKey(const unsigned char* p) {
-  return measurePseudowire<lengthIpGenAddr>(p);
+  return measureFields(kPseudowireKeyFields, p);
 }
 
+constexpr LabeledField kPseudowireKeyOptimizedFields[] = {
+    {"", &kU32Field}, {"/", &kStringField}, {"/", &kIpGenAddrOptField}, {""}};
 unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPseudowire<appendIpGenAddrOpt>(p, os);
+  return formatFields(kPseudowireKeyOptimizedFields, p, os);
 }
 unsigned lengthPseudowireKeyOptimized(const unsigned char* p) {
-  return measurePseudowire<lengthIpGenAddrOpt>(p);
+  return measureFields(kPseudowireKeyOptimizedFields, p);
 }
 
 } // namespace Orvane
