@@ -26,14 +26,14 @@ ORVANE_API unsigned lengthIpGenAddrOpt(const unsigned char* p); ///< 5, 17 or 1 
 unsigned appendIpGenAddr(const unsigned char* p, TextRun& text);
 unsigned appendIpGenAddrOpt(const unsigned char* p, TextRun& text);
 
-/// The fields of "IGM", in order (FieldKind.h).
-extern const LabeledField kIpGenAddrWithFullMaskFields[];
+/// The table of "IGM" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kIpGenAddrWithFullMaskFields[];
 /// "IGM": address "/" mask, both generic addresses, e.g. 10.1.0.0/255.255.0.0. Returns 42.
 ORVANE_API unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIpGenAddrWithFullMask(const unsigned char* p); ///< 42
 
-/// The fields of "IGMO", in order (FieldKind.h).
-extern const LabeledField kIpGenAddrOptWithFullMaskFields[];
+/// The table of "IGMO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kIpGenAddrOptWithFullMaskFields[];
 /// "IGMO": as "IGM" over two Opt addresses, the mask starting where the address ends.
 ORVANE_API unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os);
 /// The two Opt lengths added.

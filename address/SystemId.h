@@ -12,8 +12,8 @@ namespace Orvane {
 ORVANE_API unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
 
-/// The fields of "DSFID", in order (FieldKind.h).
-extern const LabeledField kDsfSystemIdFields[];
+/// The table of "DSFID" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kDsfSystemIdFields[];
 /// "DSFID": "SystemId(" u8 ", " u16 ", " string ")" through the host's base formatters.
 /// Returns the three fields' counts added.
 ORVANE_API unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os);

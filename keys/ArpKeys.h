@@ -9,8 +9,8 @@
 
 namespace Orvane {
 
-/// The fields of "ARPICK", in order (FieldKind.h).
-extern const LabeledField kArpInputConfigKeyFields[];
+/// The table of "ARPICK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kArpInputConfigKeyFields[];
 /// "ARPICK": "[" address as "IGO" "][" interface string "]". An address tag other than
 /// 1 or 2 makes the address one byte long and print [unknown].
 ORVANE_API unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os);
@@ -23,15 +23,15 @@ ORVANE_API unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostre
 /// The key, 6, lengthU8 and lengthU32, plus two lengthU32 when the flag byte is 1.
 ORVANE_API unsigned lengthArpInputConfigEntry(const unsigned char* p);
 
-/// The fields of "ARPIPK", in order (FieldKind.h).
-extern const LabeledField kArpInputPriorityKeyFields[];
+/// The table of "ARPIPK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kArpInputPriorityKeyFields[];
 /// "ARPIPK": "[" u8 "][" u32 "]".
 ORVANE_API unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os);
 /// lengthU8 + lengthU32.
 ORVANE_API unsigned lengthArpInputPriorityKey(const unsigned char* p);
 
-/// The fields of "ARPIPIK", in order (FieldKind.h).
-extern const LabeledField kArpInputPriorityInterfaceKeyFields[];
+/// The table of "ARPIPIK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kArpInputPriorityInterfaceKeyFields[];
 /// "ARPIPIK": an "ARPIPK" key, then "[" interface string "]".
 ORVANE_API unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os);
 /// lengthArpInputPriorityKey + lengthString.

@@ -13,8 +13,8 @@
 
 namespace Orvane {
 
-/// The fields of "DMBK", in order (FieldKind.h).
-extern const LabeledField kDuidMacBindingKeyFields[];
+/// The table of "DMBK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kDuidMacBindingKeyFields[];
 /// "DMBK": "duid(type: " u16 ", hwtype: " u16 ", lladdr: " MAC ", uuid: " string
 /// ", entno: " u32 ", entId: " string ")".
 ORVANE_API unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os);
@@ -22,56 +22,56 @@ ORVANE_API unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream
 /// and lengthString.
 ORVANE_API unsigned lengthDuidMacBindingKey(const unsigned char* p);
 
-/// The fields of "IPMACV2", in order (FieldKind.h).
-extern const LabeledField kIpMacV2Fields[];
+/// The table of "IPMACV2" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kIpMacV2Fields[];
 /// "IPMACV2": "[" address as "IG" "," MAC "," u32 "," u8 "]".
 ORVANE_API unsigned formatIpMacV2(const unsigned char* p, std::ostream& os);
 /// 27 + lengthU32 + lengthU8.
 ORVANE_API unsigned lengthIpMacV2(const unsigned char* p);
 
-/// The fields of "IPMACV2O", in order (FieldKind.h).
-extern const LabeledField kIpMacV2OptimizedFields[];
+/// The table of "IPMACV2O" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kIpMacV2OptimizedFields[];
 /// "IPMACV2O": as "IPMACV2" with the address as "IGO".
 ORVANE_API unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os);
 /// lengthIpGenAddrOpt + 6 + lengthU32 + lengthU8.
 ORVANE_API unsigned lengthIpMacV2Optimized(const unsigned char* p);
 
-/// The fields of "MV", in order (FieldKind.h).
-extern const LabeledField kMacVtepFields[];
+/// The table of "MV" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMacVtepFields[];
 /// "MV": "[" MAC "," IPv4 address as "I" "," u32 "," u8 "]".
 ORVANE_API unsigned formatMacVtep(const unsigned char* p, std::ostream& os);
 /// 10 + lengthU32 + lengthU8.
 ORVANE_API unsigned lengthMacVtep(const unsigned char* p);
 
-/// The fields of "MVP", in order (FieldKind.h).
-extern const LabeledField kMacVlanPairFields[];
+/// The table of "MVP" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMacVlanPairFields[];
 /// "MVP": "[" MAC "," u16 "]".
 ORVANE_API unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os);
 /// 6 + lengthU16.
 ORVANE_API unsigned lengthMacVlanPair(const unsigned char* p);
 
-/// The fields of "VIP", in order (FieldKind.h).
-extern const LabeledField kVlanIpPairFields[];
+/// The table of "VIP" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kVlanIpPairFields[];
 /// "VIP": "[" u16 VLAN "," address as "IG" "]".
 ORVANE_API unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os);
 /// lengthU16 + 21.
 ORVANE_API unsigned lengthVlanIpPair(const unsigned char* p);
 
-/// The fields of "VIPO", in order (FieldKind.h).
-extern const LabeledField kVlanIpPairOptimizedFields[];
+/// The table of "VIPO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kVlanIpPairOptimizedFields[];
 /// "VIPO": as "VIP" with the address as "IGO".
 ORVANE_API unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os);
 /// lengthU16 + lengthIpGenAddrOpt of the address after it.
 ORVANE_API unsigned lengthVlanIpPairOptimized(const unsigned char* p);
 
-/// The fields of "VIDP", in order (FieldKind.h).
-extern const LabeledField kVrfIdPairFields[];
+/// The table of "VIDP" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kVrfIdPairFields[];
 /// "VIDP": "(" u32 "-" u32 ")".
 ORVANE_API unsigned formatVrfIdPair(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthVrfIdPair(const unsigned char* p); ///< 8
 
-/// The fields of "VSP", in order (FieldKind.h).
-extern const LabeledField kVniSourcePairFields[];
+/// The table of "VSP" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kVniSourcePairFields[];
 /// "VSP": "[" u32 VNI "," string "," string "]".
 ORVANE_API unsigned formatVniSourcePair(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthString + lengthString.

@@ -19,37 +19,37 @@ namespace Orvane {
 ORVANE_API unsigned formatConnTuple(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthConnTuple(const unsigned char* p); ///< 13
 
-/// The fields of "NSK", in order (FieldKind.h).
-extern const LabeledField kNatStaticKeyFields[];
+/// The table of "NSK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kNatStaticKeyFields[];
 /// "NSK": "acl: " string ", addr: " address ":" port. The port follows the stream's
 /// base like those of "C".
 ORVANE_API unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os);
 /// lengthString + 6.
 ORVANE_API unsigned lengthNatStaticKey(const unsigned char* p);
 
-/// The fields of "NDK", in order (FieldKind.h).
-extern const LabeledField kNatDynamicKeyFields[];
+/// The table of "NDK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kNatDynamicKeyFields[];
 /// "NDK": "acl: " string ", group: " u16.
 ORVANE_API unsigned formatNatDynamicKey(const unsigned char* p, std::ostream& os);
 /// lengthString + lengthU16.
 ORVANE_API unsigned lengthNatDynamicKey(const unsigned char* p);
 
-/// The fields of "NDC", in order (FieldKind.h).
-extern const LabeledField kNatDynamicConnFields[];
+/// The table of "NDC" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kNatDynamicConnFields[];
 /// "NDC": "intf: " string ", conn: " a "C" tuple starting where the string ends.
 ORVANE_API unsigned formatNatDynamicConn(const unsigned char* p, std::ostream& os);
 /// lengthString + 13.
 ORVANE_API unsigned lengthNatDynamicConn(const unsigned char* p);
 
-/// The fields of "PMK", in order (FieldKind.h).
-extern const LabeledField kUpnpPortMapKeyFields[];
+/// The table of "PMK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kUpnpPortMapKeyFields[];
 /// "PMK": "(" address ":" u16 ":" u8 ")".
 ORVANE_API unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthU16 + lengthU8.
 ORVANE_API unsigned lengthUpnpPortMapKey(const unsigned char* p);
 
-/// The fields of "IFK", in order (FieldKind.h).
-extern const LabeledField kIpFlowKeyFields[];
+/// The table of "IFK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kIpFlowKeyFields[];
 /// "IFK": "vrfId:" u32 " vlanId:" u16 " srcAddr:" address " dstAddr:" address
 /// " ipProtocol:" u8 " srcPort:" u16 " dstPort:" u16 (19 bytes with the usual host
 /// widths).
@@ -57,8 +57,8 @@ ORVANE_API unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os);
 /// The host lengths of the fields, and 4 for each address.
 ORVANE_API unsigned lengthIpFlowKey(const unsigned char* p);
 
-/// The fields of "HIFK", in order (FieldKind.h).
-extern const LabeledField kHoIpFlowKeyFields[];
+/// The table of "HIFK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kHoIpFlowKeyFields[];
 /// "HIFK": an "IFK" key, " intf:", then the interface string that follows the key.
 ORVANE_API unsigned formatHoIpFlowKey(const unsigned char* p, std::ostream& os);
 /// lengthIpFlowKey + lengthString.

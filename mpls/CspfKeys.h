@@ -27,8 +27,8 @@ ORVANE_API unsigned formatCspfVertex(const unsigned char* p, std::ostream& os);
 /// The vertex size by type; 0xFFFFFFFF for a type above 6.
 ORVANE_API unsigned lengthCspfVertex(const unsigned char* p);
 
-/// The fields of "CPK", in order (FieldKind.h).
-extern const LabeledField kCspfPathKeyFields[];
+/// The table of "CPK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kCspfPathKeyFields[];
 /// "CPK": "dst=" vertex ", id=" u32. Returns the vertex and u32 counts added.
 ORVANE_API unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os);
 /// The vertex size + 4 (3 after an invalid vertex, wrapped).
@@ -42,8 +42,8 @@ ORVANE_API unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream
 /// 5; any other kind: 0xFFFFFFFF.
 ORVANE_API unsigned lengthCspfClientPathKey(const unsigned char* p);
 
-/// The fields of "CP2MPK", in order (FieldKind.h).
-extern const LabeledField kCspfP2mpPathKeyFields[];
+/// The table of "CP2MPK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kCspfP2mpPathKeyFields[];
 /// "CP2MPK": "id=" u32. Returns the u32 count.
 ORVANE_API unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os);
 /// 4.

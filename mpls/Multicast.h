@@ -29,15 +29,15 @@ inline constexpr std::pair<unsigned, const char*> kMulticastTunnelTypeNameEntrie
 /// Multicast tunnel type names by code; built at load time (KaMessageFormatter.cpp).
 extern const NameTable multicastTunnelTypeNames;
 
-/// The fields of "MK", in order (FieldKind.h).
-extern const LabeledField kMRouteKeyFields[];
+/// The table of "MK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMRouteKeyFields[];
 /// "MK": "(" generic address ", " generic address ")". Returns 42.
 ORVANE_API unsigned formatMRouteKey(const unsigned char* p, std::ostream& os);
 /// 42.
 ORVANE_API unsigned lengthMRouteKey(const unsigned char* p);
 
-/// The fields of "MKO", in order (FieldKind.h).
-extern const LabeledField kMRouteKeyOptimizedFields[];
+/// The table of "MKO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMRouteKeyOptimizedFields[];
 /// "MKO": as "MK" with Opt addresses.
 ORVANE_API unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Opt address sizes (5, 17 or 1 each) added.
@@ -62,23 +62,23 @@ ORVANE_API unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::os
 /// 4.
 ORVANE_API unsigned lengthMRouteIntfRptJoinState(const unsigned char* p);
 
-/// The fields of "MFK", in order (FieldKind.h).
-extern const LabeledField kMfibRouteKeyFields[];
+/// The table of "MFK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMfibRouteKeyFields[];
 /// "MFK": "(" IPv4 "/" u8 ", " IPv4 "/" u8 ")", the lengths in decimal:
 /// (10.0.0.1/32, 239.1.1.1/32). Returns 10.
 ORVANE_API unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os);
 /// 10.
 ORVANE_API unsigned lengthMfibRouteKey(const unsigned char* p);
 
-/// The fields of "MFGK", in order (FieldKind.h).
-extern const LabeledField kMfibGenRouteKeyFields[];
+/// The table of "MFGK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMfibGenRouteKeyFields[];
 /// "MFGK": "(" generic prefix ", " generic prefix ")". Returns 36.
 ORVANE_API unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os);
 /// 36.
 ORVANE_API unsigned lengthMfibGenRouteKey(const unsigned char* p);
 
-/// The fields of "MFGKO", in order (FieldKind.h).
-extern const LabeledField kMfibGenRouteKeyOptimizedFields[];
+/// The table of "MFGKO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kMfibGenRouteKeyOptimizedFields[];
 /// "MFGKO": as "MFGK" with Optimized prefixes.
 ORVANE_API unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Optimized prefix sizes added, in wrapping 32-bit arithmetic.

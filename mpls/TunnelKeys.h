@@ -18,31 +18,31 @@ ORVANE_API unsigned formatTunnelKey(const unsigned char* p, std::ostream& os);
 /// 20.
 ORVANE_API unsigned lengthTunnelKey(const unsigned char* p);
 
-/// The fields of "TKG", in order (FieldKind.h).
-extern const LabeledField kTunnelKeyGenFields[];
+/// The table of "TKG" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kTunnelKeyGenFields[];
 /// "TKG": as "TK" over two generic addresses, a u32 vrf and a u64 genId, each read at the
 /// running offset. Returns the four fields' counts added.
 ORVANE_API unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os);
 /// 42 + lengthU32 + lengthU64.
 ORVANE_API unsigned lengthTunnelKeyGen(const unsigned char* p);
 
-/// The fields of "TKGO", in order (FieldKind.h).
-extern const LabeledField kTunnelKeyGenOptimizedFields[];
+/// The table of "TKGO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kTunnelKeyGenOptimizedFields[];
 /// "TKGO": as "TKG" with Opt addresses; the second address starts where the first ends.
 ORVANE_API unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os);
 /// Both Opt address sizes + lengthU32 + lengthU64.
 ORVANE_API unsigned lengthTunnelKeyGenOptimized(const unsigned char* p);
 
-/// The fields of "PW", in order (FieldKind.h).
-extern const LabeledField kPseudowireKeyFields[];
+/// The table of "PW" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kPseudowireKeyFields[];
 /// "PW": u32 number "/" host string "/" generic address, with no blanks. An unknown
 /// address tag prints "unknown" and still consumes 21 bytes. Returns the counts added.
 ORVANE_API unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthString + 21.
 ORVANE_API unsigned lengthPseudowireKey(const unsigned char* p);
 
-/// The fields of "PWO", in order (FieldKind.h).
-extern const LabeledField kPseudowireKeyOptimizedFields[];
+/// The table of "PWO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const LabeledField kPseudowireKeyOptimizedFields[];
 /// "PWO": as "PW" with an Opt address.
 ORVANE_API unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os);
 /// lengthU32 + lengthString + the Opt address size.
