@@ -3,6 +3,7 @@
 // that one through two ovfmt builds).
 //
 //   compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]
+//   compare_stream_states --freeze PLUGIN DEMO_FILE > registry/stream-states.txt
 //
 // Loads both plug-ins into this one host process, each with its own functions (they
 // are bound inside each library), and takes each one's formatMap. Every value of
@@ -12,6 +13,9 @@
 // places them. Compared: the text, the count returned, and the stream afterwards
 // (flags, width, fill, rdstate).
 //
+// --freeze prints what one plug-in does with every value of DEMO_FILE in every state, as
+// the vector file the test suite checks (tests/formatters/StreamStatesTest.cpp).
+//
 // One difference is expected and counted apart: when the stream buffer refuses text,
 // text that several insertions wrote may now be one insertion, which fails once (bad)
 // where the later ones added failbit. Prints a line per state and exits 1 when anything
@@ -20,6 +24,7 @@
 #include "decoding/GuardedBuffer.h"
 #include "registry/FormatMap.h"
 #include "tests/support/RandomValues.h"
+#include "tests/support/StreamStates.h"
 
 #include <dlfcn.h>
 #include <functional>
@@ -32,6 +37,7 @@
 namespace {
 
 using namespace Orvane;
+using namespace Orvane::test;
 using FormatMap = decltype(formatMap);
 
 const FormatMap& loadFormatMap(const std::string& path) {
@@ -41,89 +47,6 @@ const FormatMap& loadFormatMap(const std::string& path) {
   void* map = dlsym(handle, "_ZN6Orvane9formatMapB5cxx11E");
   if (!map) throw std::runtime_error(path + " has no formatMap");
   return *static_cast<const FormatMap*>(map);
-}
-
-// Takes at most `room` characters, then refuses: a full or broken device (npos: all).
-class LimitedBuffer : public std::streambuf {
-public:
-  explicit LimitedBuffer(std::size_t room) : room_(room) {}
-  const std::string& text() const { return text_; }
-
-protected:
-  int_type overflow(int_type c) override {
-    if (traits_type::eq_int_type(c, traits_type::eof()) || text_.size() >= room_)
-      return traits_type::eof();
-    text_ += traits_type::to_char_type(c);
-    return c;
-  }
-  std::streamsize xsputn(const char* s, std::streamsize n) override {
-    const auto taken = std::min(static_cast<std::size_t>(n), room_ - text_.size());
-    text_.append(s, taken);
-    return static_cast<std::streamsize>(taken);
-  }
-
-private:
-  std::size_t room_;
-  std::string text_;
-};
-
-struct Thousands : std::numpunct<char> {
-  std::string do_grouping() const override { return "\3"; }
-  char do_thousands_sep() const override { return '\''; }
-};
-
-struct StreamState {
-  const char* name;
-  std::function<void(std::ostream&)> setUp;
-  std::size_t room = std::string::npos; ///< what the stream buffer takes (npos: all)
-};
-
-std::vector<StreamState> streamStates() {
-  const std::locale grouping(std::locale::classic(), new Thousands);
-  return {
-      {"new stream", [](std::ostream&) {}},
-      {"width 40", [](std::ostream& os) { os << std::setw(40); }},
-      {"width 40, left, fill *",
-       [](std::ostream& os) { os << std::left << std::setfill('*') << std::setw(40); }},
-      {"width 40, internal", [](std::ostream& os) { os << std::internal << std::setw(40); }},
-      {"width 3", [](std::ostream& os) { os << std::setw(3); }},
-      {"width -5", [](std::ostream& os) { os.width(-5); }},
-      {"hex", [](std::ostream& os) { os << std::hex; }},
-      {"hex, showbase, uppercase",
-       [](std::ostream& os) { os << std::hex << std::showbase << std::uppercase; }},
-      {"oct, width 12, fill 0",
-       [](std::ostream& os) { os << std::oct << std::setfill('0') << std::setw(12); }},
-      {"showpos", [](std::ostream& os) { os << std::showpos; }},
-      {"showbase", [](std::ostream& os) { os << std::showbase; }},
-      {"grouping locale", [grouping](std::ostream& os) { os.imbue(grouping); }},
-      {"grouping locale, width 30",
-       [grouping](std::ostream& os) { os.imbue(grouping), os.width(30); }},
-      {"failbit", [](std::ostream& os) { os.setstate(std::ios::failbit); }},
-      {"badbit, width 9", [](std::ostream& os) { os.setstate(std::ios::badbit), os.width(9); }},
-      {"buffer takes 0", [](std::ostream&) {}, 0},
-      {"buffer takes 7", [](std::ostream&) {}, 7},
-      {"buffer takes 20, width 25", [](std::ostream& os) { os.width(25); }, 20},
-  };
-}
-
-// What formatting one value left behind.
-struct Outcome {
-  std::string text;
-  unsigned count;
-  std::ios::fmtflags flags;
-  std::streamsize width;
-  char fill;
-  std::ios::iostate state;
-
-  bool operator==(const Outcome&) const = default;
-};
-
-Outcome format(const FormatFn& fn, const unsigned char* value, const StreamState& state) {
-  LimitedBuffer buffer(state.room);
-  std::ostream os(&buffer);
-  state.setUp(os);
-  const unsigned count = fn(value, os);
-  return {buffer.text(), count, os.flags(), os.width(), os.fill(), os.rdstate()};
 }
 
 std::string hexOf(const std::vector<unsigned char>& bytes) {
@@ -143,8 +66,8 @@ void compare(const std::string& id, const std::vector<unsigned char>& bytes, con
   static decoding::GuardedBuffer placed;
   std::copy(bytes.begin(), bytes.end(), placed.prepare(bytes.size()));
   placed.setSize(bytes.size());
-  const Outcome before = format(old, placed.data(), state),
-                after = format(now, placed.data(), state);
+  const Outcome before = formatOn(state, old, placed.data()),
+                after = formatOn(state, now, placed.data());
   ++tally.compared;
   if (before == after) return;
   Outcome withoutFailbit = before;
@@ -159,12 +82,31 @@ void compare(const std::string& id, const std::vector<unsigned char>& bytes, con
               << ")\n";
 }
 
+// Prints a vector line per stream state and value of the demo file, as `plugin` formats
+// them: registry/stream-states.txt, which the test StreamStates.FrozenVectors checks.
+int freeze(const std::string& plugin, const std::string& demoPath) {
+  const FormatMap& map = loadFormatMap(plugin);
+  const auto demo = bench::readTraceValues(demoPath);
+  decoding::GuardedBuffer placed;
+  for (const StreamState& state : streamStates())
+    for (const auto& value : demo) {
+      std::copy(value.bytes.begin(), value.bytes.end(), placed.prepare(value.bytes.size()));
+      placed.setSize(value.bytes.size());
+      const Outcome outcome = formatOn(state, map.at(value.id).first, placed.data());
+      std::cout << "[" << state.name << "] " << value.id << " " << hexOf(value.bytes) << "=> "
+                << outcomeLine(outcome) << "\n";
+    }
+  return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) try {
+  if (argc == 4 && std::string(argv[1]) == "--freeze") return freeze(argv[2], argv[3]);
   if (argc < 4) {
     std::cerr
-        << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]\n";
+        << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]\n"
+           "       compare_stream_states --freeze PLUGIN DEMO_FILE > registry/stream-states.txt\n";
     return 2;
   }
   const FormatMap& old = loadFormatMap(argv[1]);

@@ -19,6 +19,10 @@
 // printed before it together, as one insertion: the same text whether the key prints a
 // label or a caller's run holds it.
 //
+// registry/stream-states.txt freezes what that gives for every demo value in every stream
+// state a caller may leave (bench/compare_stream_states --freeze writes it; the test
+// StreamStates.FrozenVectors checks it), so the rule cannot drift unseen.
+//
 // Sums are unsigned 32-bit and wrap; a field after an invalid one (0xFFFFFFFF) is read
 // where at() puts it, and the wrapped total is returned unrepaired.
 #pragma once
