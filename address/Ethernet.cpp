@@ -31,9 +31,9 @@ unsigned lengthEthColonSeparated(const unsigned char*) { return 6; }
 
 constexpr LabeledField kEthMaskFields[] = {{"", &kEthField}, {"/", &kEthField}, {""}};
 unsigned formatEthMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(kEthMaskFields, p, os);
+  return formatTable<kEthMaskFields>(p, os);
 }
-unsigned lengthEthMask(const unsigned char* p) { return measureFields(kEthMaskFields, p); }
+unsigned lengthEthMask(const unsigned char* p) { return lengthTable<kEthMaskFields>(p); }
 
 unsigned formatEthSegment(const unsigned char* p, std::ostream& os) {
   return printEthSegment(p, os);

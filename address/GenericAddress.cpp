@@ -56,19 +56,19 @@ unsigned lengthIpGenAddrOpt(const unsigned char* p) {
 constexpr LabeledField kIpGenAddrWithFullMaskFields[] = {
     {"", &kIpGenAddrField}, {"/", &kIpGenAddrField}, {""}};
 unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpGenAddrWithFullMaskFields, p, os);
+  return formatTable<kIpGenAddrWithFullMaskFields>(p, os);
 }
 unsigned lengthIpGenAddrWithFullMask(const unsigned char* p) {
-  return measureFields(kIpGenAddrWithFullMaskFields, p);
+  return lengthTable<kIpGenAddrWithFullMaskFields>(p);
 }
 
 constexpr LabeledField kIpGenAddrOptWithFullMaskFields[] = {
     {"", &kIpGenAddrOptField}, {"/", &kIpGenAddrOptField}, {""}};
 unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpGenAddrOptWithFullMaskFields, p, os);
+  return formatTable<kIpGenAddrOptWithFullMaskFields>(p, os);
 }
 unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p) {
-  return measureFields(kIpGenAddrOptWithFullMaskFields, p);
+  return lengthTable<kIpGenAddrOptWithFullMaskFields>(p);
 }
 
 } // namespace Orvane

@@ -15,8 +15,8 @@ unsigned lengthIsisSystemId(const unsigned char*) { return 6; }
 constexpr LabeledField kDsfSystemIdFields[] = {
     {"SystemId(", &kU8Field}, {", ", &kU16Field}, {", ", &kStringField}, {")"}};
 unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os) {
-  return formatFields(kDsfSystemIdFields, p, os);
+  return formatTable<kDsfSystemIdFields>(p, os);
 }
-unsigned lengthDsfSystemId(const unsigned char* p) { return measureFields(kDsfSystemIdFields, p); }
+unsigned lengthDsfSystemId(const unsigned char* p) { return lengthTable<kDsfSystemIdFields>(p); }
 
 } // namespace Orvane

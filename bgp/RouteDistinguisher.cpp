@@ -125,10 +125,10 @@ unsigned lengthRouteTarget(const unsigned char*) { return 8; }
 constexpr LabeledField kRtMembershipRouteKeyFields[] = {
     {"origin: ", &kU32FixedField}, {";", &kMembershipTargetField}, {""}};
 unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kRtMembershipRouteKeyFields, p, os);
+  return formatTable<kRtMembershipRouteKeyFields>(p, os);
 }
 unsigned lengthRtMembershipRouteKey(const unsigned char* p) {
-  return measureFields(kRtMembershipRouteKeyFields, p);
+  return lengthTable<kRtMembershipRouteKeyFields>(p);
 }
 
 } // namespace Orvane

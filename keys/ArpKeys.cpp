@@ -16,10 +16,10 @@ constexpr unsigned char kExtendedEntry = 1;
 constexpr LabeledField kArpInputConfigKeyFields[] = {
     {"[", &kIpGenAddrOptField}, {"][", &kStringField}, {"]"}};
 unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kArpInputConfigKeyFields, p, os);
+  return formatTable<kArpInputConfigKeyFields>(p, os);
 }
 unsigned lengthArpInputConfigKey(const unsigned char* p) {
-  return measureFields(kArpInputConfigKeyFields, p);
+  return lengthTable<kArpInputConfigKeyFields>(p);
 }
 
 // An entry: the key and the MAC, then the flag and a number; the flag alone decides
@@ -50,10 +50,10 @@ unsigned lengthArpInputConfigEntry(const unsigned char* p) {
 
 constexpr LabeledField kArpInputPriorityKeyFields[] = {{"[", &kU8Field}, {"][", &kU32Field}, {"]"}};
 unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kArpInputPriorityKeyFields, p, os);
+  return formatTable<kArpInputPriorityKeyFields>(p, os);
 }
 unsigned lengthArpInputPriorityKey(const unsigned char* p) {
-  return measureFields(kArpInputPriorityKeyFields, p);
+  return lengthTable<kArpInputPriorityKeyFields>(p);
 }
 
 constexpr FieldKind kArpInputPriorityKeyField{formatArpInputPriorityKey, lengthArpInputPriorityKey,
@@ -61,10 +61,10 @@ constexpr FieldKind kArpInputPriorityKeyField{formatArpInputPriorityKey, lengthA
 constexpr LabeledField kArpInputPriorityInterfaceKeyFields[] = {
     {"", &kArpInputPriorityKeyField}, {"[", &kStringField}, {"]"}};
 unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kArpInputPriorityInterfaceKeyFields, p, os);
+  return formatTable<kArpInputPriorityInterfaceKeyFields>(p, os);
 }
 unsigned lengthArpInputPriorityInterfaceKey(const unsigned char* p) {
-  return measureFields(kArpInputPriorityInterfaceKeyFields, p);
+  return lengthTable<kArpInputPriorityInterfaceKeyFields>(p);
 }
 
 } // namespace Orvane

@@ -16,69 +16,69 @@ constexpr LabeledField kDuidMacBindingKeyFields[] = {{"duid(type: ", &kU16Field}
                                                      {", entId: ", &kStringField},
                                                      {")"}};
 unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kDuidMacBindingKeyFields, p, os);
+  return formatTable<kDuidMacBindingKeyFields>(p, os);
 }
 unsigned lengthDuidMacBindingKey(const unsigned char* p) {
-  return measureFields(kDuidMacBindingKeyFields, p);
+  return lengthTable<kDuidMacBindingKeyFields>(p);
 }
 
 constexpr LabeledField kIpMacV2Fields[] = {
     {"[", &kIpGenAddrField}, {",", &kEthField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
 unsigned formatIpMacV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpMacV2Fields, p, os);
+  return formatTable<kIpMacV2Fields>(p, os);
 }
-unsigned lengthIpMacV2(const unsigned char* p) { return measureFields(kIpMacV2Fields, p); }
+unsigned lengthIpMacV2(const unsigned char* p) { return lengthTable<kIpMacV2Fields>(p); }
 
 constexpr LabeledField kIpMacV2OptimizedFields[] = {
     {"[", &kIpGenAddrOptField}, {",", &kEthField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
 unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpMacV2OptimizedFields, p, os);
+  return formatTable<kIpMacV2OptimizedFields>(p, os);
 }
 unsigned lengthIpMacV2Optimized(const unsigned char* p) {
-  return measureFields(kIpMacV2OptimizedFields, p);
+  return lengthTable<kIpMacV2OptimizedFields>(p);
 }
 
 constexpr LabeledField kMacVtepFields[] = {
     {"[", &kEthField}, {",", &kIpField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
 unsigned formatMacVtep(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMacVtepFields, p, os);
+  return formatTable<kMacVtepFields>(p, os);
 }
-unsigned lengthMacVtep(const unsigned char* p) { return measureFields(kMacVtepFields, p); }
+unsigned lengthMacVtep(const unsigned char* p) { return lengthTable<kMacVtepFields>(p); }
 
 constexpr LabeledField kMacVlanPairFields[] = {{"[", &kEthField}, {",", &kU16Field}, {"]"}};
 unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMacVlanPairFields, p, os);
+  return formatTable<kMacVlanPairFields>(p, os);
 }
-unsigned lengthMacVlanPair(const unsigned char* p) { return measureFields(kMacVlanPairFields, p); }
+unsigned lengthMacVlanPair(const unsigned char* p) { return lengthTable<kMacVlanPairFields>(p); }
 
 constexpr LabeledField kVlanIpPairFields[] = {{"[", &kU16Field}, {",", &kIpGenAddrField}, {"]"}};
 unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(kVlanIpPairFields, p, os);
+  return formatTable<kVlanIpPairFields>(p, os);
 }
-unsigned lengthVlanIpPair(const unsigned char* p) { return measureFields(kVlanIpPairFields, p); }
+unsigned lengthVlanIpPair(const unsigned char* p) { return lengthTable<kVlanIpPairFields>(p); }
 
 constexpr LabeledField kVlanIpPairOptimizedFields[] = {
     {"[", &kU16Field}, {",", &kIpGenAddrOptField}, {"]"}};
 unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kVlanIpPairOptimizedFields, p, os);
+  return formatTable<kVlanIpPairOptimizedFields>(p, os);
 }
 unsigned lengthVlanIpPairOptimized(const unsigned char* p) {
-  return measureFields(kVlanIpPairOptimizedFields, p);
+  return lengthTable<kVlanIpPairOptimizedFields>(p);
 }
 
 constexpr LabeledField kVrfIdPairFields[] = {{"(", &kU32FixedField}, {"-", &kU32FixedField}, {")"}};
 unsigned formatVrfIdPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(kVrfIdPairFields, p, os);
+  return formatTable<kVrfIdPairFields>(p, os);
 }
-unsigned lengthVrfIdPair(const unsigned char* p) { return measureFields(kVrfIdPairFields, p); }
+unsigned lengthVrfIdPair(const unsigned char* p) { return lengthTable<kVrfIdPairFields>(p); }
 
 constexpr LabeledField kVniSourcePairFields[] = {
     {"[", &kU32Field}, {",", &kStringField}, {",", &kStringField}, {"]"}};
 unsigned formatVniSourcePair(const unsigned char* p, std::ostream& os) {
-  return formatFields(kVniSourcePairFields, p, os);
+  return formatTable<kVniSourcePairFields>(p, os);
 }
 unsigned lengthVniSourcePair(const unsigned char* p) {
-  return measureFields(kVniSourcePairFields, p);
+  return lengthTable<kVniSourcePairFields>(p);
 }
 
 } // namespace Orvane

@@ -16,7 +16,7 @@ constexpr LabeledField kEndpointsFields[] = {
 // "C" and "NSK" print each address and port as "IP" does, with the port inserted
 // directly.
 unsigned formatConnTuple(const unsigned char* p, std::ostream& os) {
-  const unsigned endpoints = formatFields(kEndpointsFields, p, os);
+  const unsigned endpoints = formatTable<kEndpointsFields>(p, os);
   os << ',' << static_cast<unsigned>(p[endpoints]);
   return lengthConnTuple(p);
 }
@@ -25,19 +25,17 @@ unsigned lengthConnTuple(const unsigned char*) { return 13; }
 constexpr LabeledField kNatStaticKeyFields[] = {
     {"acl: ", &kStringField}, {", addr: ", &kIpAndPortField}, {""}};
 unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kNatStaticKeyFields, p, os);
+  return formatTable<kNatStaticKeyFields>(p, os);
 }
-unsigned lengthNatStaticKey(const unsigned char* p) {
-  return measureFields(kNatStaticKeyFields, p);
-}
+unsigned lengthNatStaticKey(const unsigned char* p) { return lengthTable<kNatStaticKeyFields>(p); }
 
 constexpr LabeledField kNatDynamicKeyFields[] = {
     {"acl: ", &kStringField}, {", group: ", &kU16Field}, {""}};
 unsigned formatNatDynamicKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kNatDynamicKeyFields, p, os);
+  return formatTable<kNatDynamicKeyFields>(p, os);
 }
 unsigned lengthNatDynamicKey(const unsigned char* p) {
-  return measureFields(kNatDynamicKeyFields, p);
+  return lengthTable<kNatDynamicKeyFields>(p);
 }
 
 constexpr FieldKind kConnTupleField{formatConnTuple, lengthConnTuple, nullptr,
@@ -45,19 +43,19 @@ constexpr FieldKind kConnTupleField{formatConnTuple, lengthConnTuple, nullptr,
 constexpr LabeledField kNatDynamicConnFields[] = {
     {"intf: ", &kStringField}, {", conn: ", &kConnTupleField}, {""}};
 unsigned formatNatDynamicConn(const unsigned char* p, std::ostream& os) {
-  return formatFields(kNatDynamicConnFields, p, os);
+  return formatTable<kNatDynamicConnFields>(p, os);
 }
 unsigned lengthNatDynamicConn(const unsigned char* p) {
-  return measureFields(kNatDynamicConnFields, p);
+  return lengthTable<kNatDynamicConnFields>(p);
 }
 
 constexpr LabeledField kUpnpPortMapKeyFields[] = {
     {"(", &kIpField}, {":", &kU16Field}, {":", &kU8Field}, {")"}};
 unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kUpnpPortMapKeyFields, p, os);
+  return formatTable<kUpnpPortMapKeyFields>(p, os);
 }
 unsigned lengthUpnpPortMapKey(const unsigned char* p) {
-  return measureFields(kUpnpPortMapKeyFields, p);
+  return lengthTable<kUpnpPortMapKeyFields>(p);
 }
 
 constexpr LabeledField kIpFlowKeyFields[] = {{"vrfId:", &kU32Field},      {" vlanId:", &kU16Field},
@@ -65,16 +63,16 @@ constexpr LabeledField kIpFlowKeyFields[] = {{"vrfId:", &kU32Field},      {" vla
                                              {" ipProtocol:", &kU8Field}, {" srcPort:", &kU16Field},
                                              {" dstPort:", &kU16Field},   {""}};
 unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpFlowKeyFields, p, os);
+  return formatTable<kIpFlowKeyFields>(p, os);
 }
-unsigned lengthIpFlowKey(const unsigned char* p) { return measureFields(kIpFlowKeyFields, p); }
+unsigned lengthIpFlowKey(const unsigned char* p) { return lengthTable<kIpFlowKeyFields>(p); }
 
 constexpr FieldKind kIpFlowKeyField{formatIpFlowKey, lengthIpFlowKey, nullptr, "IP flow key (IFK)"};
 constexpr LabeledField kHoIpFlowKeyFields[] = {
     {"", &kIpFlowKeyField}, {" intf:", &kStringField}, {""}};
 unsigned formatHoIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kHoIpFlowKeyFields, p, os);
+  return formatTable<kHoIpFlowKeyFields>(p, os);
 }
-unsigned lengthHoIpFlowKey(const unsigned char* p) { return measureFields(kHoIpFlowKeyFields, p); }
+unsigned lengthHoIpFlowKey(const unsigned char* p) { return lengthTable<kHoIpFlowKeyFields>(p); }
 
 } // namespace Orvane

@@ -23,11 +23,9 @@ unsigned lengthFapmask(const unsigned char*) { return 16; }
 constexpr LabeledField kOutAcTypeKeyFields[] = {
     {"(fapId: ", &kU16Field}, {", acIndex: ", &kU32Field}, {", outAcType: ", &kU8Field}, {")"}};
 unsigned formatOutAcTypeKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kOutAcTypeKeyFields, p, os);
+  return formatTable<kOutAcTypeKeyFields>(p, os);
 }
-unsigned lengthOutAcTypeKey(const unsigned char* p) {
-  return measureFields(kOutAcTypeKeyFields, p);
-}
+unsigned lengthOutAcTypeKey(const unsigned char* p) { return lengthTable<kOutAcTypeKeyFields>(p); }
 
 constexpr LabeledField kOutAcKeyFields[] = {{"(fapMask: ", &kFapmaskField},
                                             {", acFormat: ", &kU32Field},
@@ -42,9 +40,9 @@ constexpr LabeledField kOutAcKeyFields[] = {{"(fapMask: ", &kFapmaskField},
                                             {", isL2SubIntf: ", &kBoolField},
                                             {")"}};
 unsigned formatOutAcKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kOutAcKeyFields, p, os);
+  return formatTable<kOutAcKeyFields>(p, os);
 }
-unsigned lengthOutAcKey(const unsigned char* p) { return measureFields(kOutAcKeyFields, p); }
+unsigned lengthOutAcKey(const unsigned char* p) { return lengthTable<kOutAcKeyFields>(p); }
 
 constexpr LabeledField kSviEgressEveKeyFields[] = {{"(vlanIntfId: ", &kStringField},
                                                    {", intfId: ", &kStringField},
@@ -52,10 +50,10 @@ constexpr LabeledField kSviEgressEveKeyFields[] = {{"(vlanIntfId: ", &kStringFie
                                                    {", lagIntfId: ", &kStringField},
                                                    {")"}};
 unsigned formatSviEgressEveKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kSviEgressEveKeyFields, p, os);
+  return formatTable<kSviEgressEveKeyFields>(p, os);
 }
 unsigned lengthSviEgressEveKey(const unsigned char* p) {
-  return measureFields(kSviEgressEveKeyFields, p);
+  return lengthTable<kSviEgressEveKeyFields>(p);
 }
 
 constexpr FieldKind kSviEgressEveKeyField{formatSviEgressEveKey, lengthSviEgressEveKey, nullptr,
@@ -65,10 +63,10 @@ constexpr FieldKind kOutAcTypeKeyField{formatOutAcTypeKey, lengthOutAcTypeKey, n
 constexpr LabeledField kSviEgressEsemRequestKeyFields[] = {
     {"(eveKey: ", &kSviEgressEveKeyField}, {", outAcTypeKey: ", &kOutAcTypeKeyField}, {")"}};
 unsigned formatSviEgressEsemRequestKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kSviEgressEsemRequestKeyFields, p, os);
+  return formatTable<kSviEgressEsemRequestKeyFields>(p, os);
 }
 unsigned lengthSviEgressEsemRequestKey(const unsigned char* p) {
-  return measureFields(kSviEgressEsemRequestKeyFields, p);
+  return lengthTable<kSviEgressEsemRequestKeyFields>(p);
 }
 
 constexpr LabeledField kUdfDescFields[] = {{"", &kStringField},
@@ -82,8 +80,8 @@ constexpr LabeledField kUdfDescFields[] = {{"", &kStringField},
                                            {" priority:", &kU8Field},
                                            {""}};
 unsigned formatUdfDesc(const unsigned char* p, std::ostream& os) {
-  return formatFields(kUdfDescFields, p, os);
+  return formatTable<kUdfDescFields>(p, os);
 }
-unsigned lengthUdfDesc(const unsigned char* p) { return measureFields(kUdfDescFields, p); }
+unsigned lengthUdfDesc(const unsigned char* p) { return lengthTable<kUdfDescFields>(p); }
 
 } // namespace Orvane

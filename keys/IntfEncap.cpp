@@ -26,17 +26,17 @@ unsigned lengthEncap(const unsigned char* p) { return lengthU16(p) * 2 + lengthU
 constexpr LabeledField kIntfEncapFields[] = {
     {"", &kStringField}, {"(", &kU16Field}, {",", &kU16Field}, {")"}};
 unsigned formatIntfEncap(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIntfEncapFields, p, os);
+  return formatTable<kIntfEncapFields>(p, os);
 }
-unsigned lengthIntfEncap(const unsigned char* p) { return measureFields(kIntfEncapFields, p); }
+unsigned lengthIntfEncap(const unsigned char* p) { return lengthTable<kIntfEncapFields>(p); }
 
 constexpr FieldKind kEncapField{formatEncap, lengthEncap, nullptr,
                                 "VLAN tag (u16 id, u16 TPID, u8 priority)", 5};
 constexpr LabeledField kIntfEncapV2Fields[] = {
     {"", &kStringField}, {"(", &kEncapField}, {",", &kEncapField}, {")"}};
 unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIntfEncapV2Fields, p, os);
+  return formatTable<kIntfEncapV2Fields>(p, os);
 }
-unsigned lengthIntfEncapV2(const unsigned char* p) { return measureFields(kIntfEncapV2Fields, p); }
+unsigned lengthIntfEncapV2(const unsigned char* p) { return lengthTable<kIntfEncapV2Fields>(p); }
 
 } // namespace Orvane

@@ -13,9 +13,9 @@ constexpr LabeledField kBfdPeerFields[] = {{"peer(ip:", &kIpGenAddrField},
                                            {", type:", &kU32Field},
                                            {")"}};
 unsigned formatBfdPeer(const unsigned char* p, std::ostream& os) {
-  return formatFields(kBfdPeerFields, p, os);
+  return formatTable<kBfdPeerFields>(p, os);
 }
-unsigned lengthBfdPeer(const unsigned char* p) { return measureFields(kBfdPeerFields, p); }
+unsigned lengthBfdPeer(const unsigned char* p) { return lengthTable<kBfdPeerFields>(p); }
 
 constexpr LabeledField kBfdPeerOptimizedFields[] = {{"peer(ip:", &kIpGenAddrOptField},
                                                     {", vrf:", &kStringField},
@@ -25,10 +25,10 @@ constexpr LabeledField kBfdPeerOptimizedFields[] = {{"peer(ip:", &kIpGenAddrOptF
                                                     {", type:", &kU32Field},
                                                     {")"}};
 unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kBfdPeerOptimizedFields, p, os);
+  return formatTable<kBfdPeerOptimizedFields>(p, os);
 }
 unsigned lengthBfdPeerOptimized(const unsigned char* p) {
-  return measureFields(kBfdPeerOptimizedFields, p);
+  return lengthTable<kBfdPeerOptimizedFields>(p);
 }
 
 } // namespace Orvane

@@ -40,9 +40,9 @@ unsigned lengthCspfVertex(const unsigned char* p) {
 constexpr LabeledField kCspfPathKeyFields[] = {
     {"dst=", &kCspfVertexField}, {", id=", &kU32FixedField}, {""}};
 unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kCspfPathKeyFields, p, os);
+  return formatTable<kCspfPathKeyFields>(p, os);
 }
-unsigned lengthCspfPathKey(const unsigned char* p) { return measureFields(kCspfPathKeyFields, p); }
+unsigned lengthCspfPathKey(const unsigned char* p) { return lengthTable<kCspfPathKeyFields>(p); }
 
 // The client key's bodies, after its kind byte.
 constexpr FieldKind kPathKeyField{formatCspfPathKey, lengthCspfPathKey, nullptr, "CSPF path key"};
@@ -68,10 +68,10 @@ unsigned lengthCspfClientPathKey(const unsigned char* p) {
 
 constexpr LabeledField kCspfP2mpPathKeyFields[] = {{"id=", &kU32FixedField}, {""}};
 unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kCspfP2mpPathKeyFields, p, os);
+  return formatTable<kCspfP2mpPathKeyFields>(p, os);
 }
 unsigned lengthCspfP2mpPathKey(const unsigned char* p) {
-  return measureFields(kCspfP2mpPathKeyFields, p);
+  return lengthTable<kCspfP2mpPathKeyFields>(p);
 }
 
 } // namespace Orvane

@@ -118,8 +118,8 @@ unsigned lengthGlobalFecId(const unsigned char*) { return 10; }
 constexpr LabeledField kLfibViaKeyFields[] = {
     {"(", &kU8FixedField}, {",", &kU32FixedField}, {",", &kU8FixedField}, {")"}};
 unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kLfibViaKeyFields, p, os);
+  return formatTable<kLfibViaKeyFields>(p, os);
 }
-unsigned lengthLfibViaKey(const unsigned char* p) { return measureFields(kLfibViaKeyFields, p); }
+unsigned lengthLfibViaKey(const unsigned char* p) { return lengthTable<kLfibViaKeyFields>(p); }
 
 } // namespace Orvane

@@ -30,17 +30,17 @@ const char* joinStateName(const unsigned char* p, const char* const (&names)[3])
 constexpr LabeledField kMRouteKeyFields[] = {
     {"(", &kIpGenAddrField}, {", ", &kIpGenAddrField}, {")"}};
 unsigned formatMRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMRouteKeyFields, p, os);
+  return formatTable<kMRouteKeyFields>(p, os);
 }
-unsigned lengthMRouteKey(const unsigned char* p) { return measureFields(kMRouteKeyFields, p); }
+unsigned lengthMRouteKey(const unsigned char* p) { return lengthTable<kMRouteKeyFields>(p); }
 
 constexpr LabeledField kMRouteKeyOptimizedFields[] = {
     {"(", &kIpGenAddrOptField}, {", ", &kIpGenAddrOptField}, {")"}};
 unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMRouteKeyOptimizedFields, p, os);
+  return formatTable<kMRouteKeyOptimizedFields>(p, os);
 }
 unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
-  return measureFields(kMRouteKeyOptimizedFields, p);
+  return lengthTable<kMRouteKeyOptimizedFields>(p);
 }
 
 unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
@@ -74,28 +74,26 @@ unsigned lengthMRouteIntfRptJoinState(const unsigned char*) { return 4; }
 constexpr LabeledField kMfibRouteKeyFields[] = {
     {"(", &kIpPrefixField}, {", ", &kIpPrefixField}, {")"}};
 unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMfibRouteKeyFields, p, os);
+  return formatTable<kMfibRouteKeyFields>(p, os);
 }
-unsigned lengthMfibRouteKey(const unsigned char* p) {
-  return measureFields(kMfibRouteKeyFields, p);
-}
+unsigned lengthMfibRouteKey(const unsigned char* p) { return lengthTable<kMfibRouteKeyFields>(p); }
 
 constexpr LabeledField kMfibGenRouteKeyFields[] = {
     {"(", &kIpGenPrefixField}, {", ", &kIpGenPrefixField}, {")"}};
 unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMfibGenRouteKeyFields, p, os);
+  return formatTable<kMfibGenRouteKeyFields>(p, os);
 }
 unsigned lengthMfibGenRouteKey(const unsigned char* p) {
-  return measureFields(kMfibGenRouteKeyFields, p);
+  return lengthTable<kMfibGenRouteKeyFields>(p);
 }
 
 constexpr LabeledField kMfibGenRouteKeyOptimizedFields[] = {
     {"(", &kIpGenPrefixOptimizedField}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
 unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kMfibGenRouteKeyOptimizedFields, p, os);
+  return formatTable<kMfibGenRouteKeyOptimizedFields>(p, os);
 }
 unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p) {
-  return measureFields(kMfibGenRouteKeyOptimizedFields, p);
+  return lengthTable<kMfibGenRouteKeyOptimizedFields>(p);
 }
 
 unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os) {

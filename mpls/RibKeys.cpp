@@ -9,25 +9,25 @@ namespace Orvane {
 constexpr LabeledField kRibRouteKeyFields[] = {
     {"(", &kU32Field}, {", ", &kIpGenPrefixField}, {")"}};
 unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kRibRouteKeyFields, p, os);
+  return formatTable<kRibRouteKeyFields>(p, os);
 }
-unsigned lengthRibRouteKey(const unsigned char* p) { return measureFields(kRibRouteKeyFields, p); }
+unsigned lengthRibRouteKey(const unsigned char* p) { return lengthTable<kRibRouteKeyFields>(p); }
 
 constexpr LabeledField kRibRouteKeyOptimizedFields[] = {
     {"(", &kU32Field}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
 unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kRibRouteKeyOptimizedFields, p, os);
+  return formatTable<kRibRouteKeyOptimizedFields>(p, os);
 }
 unsigned lengthRibRouteKeyOptimized(const unsigned char* p) {
-  return measureFields(kRibRouteKeyOptimizedFields, p);
+  return lengthTable<kRibRouteKeyOptimizedFields>(p);
 }
 
 constexpr LabeledField kRibViaKeyFields[] = {
     {"(id:", &kU64Field}, {", vrfId:", &kU32Field}, {", proto:", &kRoutingProtocolField}, {")"}};
 unsigned formatRibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kRibViaKeyFields, p, os);
+  return formatTable<kRibViaKeyFields>(p, os);
 }
-unsigned lengthRibViaKey(const unsigned char* p) { return measureFields(kRibViaKeyFields, p); }
+unsigned lengthRibViaKey(const unsigned char* p) { return lengthTable<kRibViaKeyFields>(p); }
 
 unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
   printName(os, routingProtocolNames, p[0]);
@@ -37,35 +37,33 @@ unsigned lengthRoutingProtocol(const unsigned char*) { return 1; }
 
 constexpr LabeledField kAfProtoFields[] = {{"(", &kAfField}, {",", &kRoutingProtocolField}, {")"}};
 unsigned formatAfProto(const unsigned char* p, std::ostream& os) {
-  return formatFields(kAfProtoFields, p, os);
+  return formatTable<kAfProtoFields>(p, os);
 }
-unsigned lengthAfProto(const unsigned char* p) { return measureFields(kAfProtoFields, p); }
+unsigned lengthAfProto(const unsigned char* p) { return lengthTable<kAfProtoFields>(p); }
 
 constexpr LabeledField kAfProtoVrfIdFields[] = {
     {"(", &kAfField}, {",", &kRoutingProtocolField}, {",", &kU32Field}, {")"}};
 unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os) {
-  return formatFields(kAfProtoVrfIdFields, p, os);
+  return formatTable<kAfProtoVrfIdFields>(p, os);
 }
-unsigned lengthAfProtoVrfId(const unsigned char* p) {
-  return measureFields(kAfProtoVrfIdFields, p);
-}
+unsigned lengthAfProtoVrfId(const unsigned char* p) { return lengthTable<kAfProtoVrfIdFields>(p); }
 
 constexpr LabeledField kIpGenUcastKeyRefFields[] = {
     {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixField}, {""}};
 unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpGenUcastKeyRefFields, p, os);
+  return formatTable<kIpGenUcastKeyRefFields>(p, os);
 }
 unsigned lengthIpGenUcastKeyRef(const unsigned char* p) {
-  return measureFields(kIpGenUcastKeyRefFields, p);
+  return lengthTable<kIpGenUcastKeyRefFields>(p);
 }
 
 constexpr LabeledField kIpGenUcastKeyRefOptimizedFields[] = {
     {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixOptimizedField}, {""}};
 unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kIpGenUcastKeyRefOptimizedFields, p, os);
+  return formatTable<kIpGenUcastKeyRefOptimizedFields>(p, os);
 }
 unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p) {
-  return measureFields(kIpGenUcastKeyRefOptimizedFields, p);
+  return lengthTable<kIpGenUcastKeyRefOptimizedFields>(p);
 }
 
 } // namespace Orvane

@@ -24,11 +24,9 @@ constexpr LabeledField kTunnelKeyGenFields[] = {{"src:", &kIpGenAddrField},
                                                 {", genId:", &kU64Field},
                                                 {""}};
 unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os) {
-  return formatFields(kTunnelKeyGenFields, p, os);
+  return formatTable<kTunnelKeyGenFields>(p, os);
 }
-unsigned lengthTunnelKeyGen(const unsigned char* p) {
-  return measureFields(kTunnelKeyGenFields, p);
-}
+unsigned lengthTunnelKeyGen(const unsigned char* p) { return lengthTable<kTunnelKeyGenFields>(p); }
 
 constexpr LabeledField kTunnelKeyGenOptimizedFields[] = {{"src:", &kIpGenAddrOptField},
                                                          {", dst:", &kIpGenAddrOptField},
@@ -36,28 +34,28 @@ constexpr LabeledField kTunnelKeyGenOptimizedFields[] = {{"src:", &kIpGenAddrOpt
                                                          {", genId:", &kU64Field},
                                                          {""}};
 unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kTunnelKeyGenOptimizedFields, p, os);
+  return formatTable<kTunnelKeyGenOptimizedFields>(p, os);
 }
 unsigned lengthTunnelKeyGenOptimized(const unsigned char* p) {
-  return measureFields(kTunnelKeyGenOptimizedFields, p);
+  return lengthTable<kTunnelKeyGenOptimizedFields>(p);
 }
 
 constexpr LabeledField kPseudowireKeyFields[] = {
     {"", &kU32Field}, {"/", &kStringField}, {"/", &kIpGenAddrField}, {""}};
 unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(kPseudowireKeyFields, p, os);
+  return formatTable<kPseudowireKeyFields>(p, os);
 }
 unsigned lengthPseudowireKey(const unsigned char* p) {
-  return measureFields(kPseudowireKeyFields, p);
+  return lengthTable<kPseudowireKeyFields>(p);
 }
 
 constexpr LabeledField kPseudowireKeyOptimizedFields[] = {
     {"", &kU32Field}, {"/", &kStringField}, {"/", &kIpGenAddrOptField}, {""}};
 unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(kPseudowireKeyOptimizedFields, p, os);
+  return formatTable<kPseudowireKeyOptimizedFields>(p, os);
 }
 unsigned lengthPseudowireKeyOptimized(const unsigned char* p) {
-  return measureFields(kPseudowireKeyOptimizedFields, p);
+  return lengthTable<kPseudowireKeyOptimizedFields>(p);
 }
 
 } // namespace Orvane

@@ -2,13 +2,14 @@
 //
 // Each field starts at the running sum of the counts the earlier fields returned, and
 // the walk returns the final sum. formatFields() and measureFields() take the same table
-// and advance by the same fields, so a key's text and its size come from one list:
+// and advance by the same fields, so a key's text and its size come from one list;
+// formatTable and lengthTable are a table's two functions:
 //
 //   unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
-//     return formatFields(kMacVlanPairFields, p, os);
+//     return formatTable<kMacVlanPairFields>(p, os);
 //   }
 //   unsigned lengthMacVlanPair(const unsigned char* p) {
-//     return measureFields(kMacVlanPairFields, p);
+//     return lengthTable<kMacVlanPairFields>(p);
 //   }
 //
 // Literals under a caller's width, one rule for every table: a label joins the text
@@ -49,8 +50,8 @@ unsigned formatFields(const LabeledField* fields, const unsigned char* p, std::o
 /// The final offset of the same walk, printing nothing.
 unsigned measureFields(const LabeledField* fields, const unsigned char* p, unsigned start = 0);
 
-/// The format and length functions of the table `Fields`, for a kind of its own when a
-/// key is a field of another.
+/// The format and length functions of the table `Fields`: what a composite's exported
+/// functions return, and a kind's functions when a key is a field of another.
 template <const LabeledField* Fields>
 unsigned formatTable(const unsigned char* p, std::ostream& os) {
   return formatFields(Fields, p, os);
