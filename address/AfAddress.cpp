@@ -1,8 +1,8 @@
 #include "address/AfAddress.h"
 
+#include "address/HexGroups.h"
 #include "address/Ip.h"
 #include "registry/Bytes.h"
-#include "registry/HexDigits.h"
 
 #include <algorithm>
 #include <cstring>
@@ -52,15 +52,11 @@ void printInet6(const unsigned char* p, unsigned n, bool zoned, std::ostream& os
 // the stream, it leaves the fill at '0' and the base decimal.
 void printDataBytes(const unsigned char* data, int count, std::ostream& os) {
   char text[5 * 128]; // at most 253 bytes: "xxxx." per pair, "-xx" for the last
-  char* out = text;
-  int i = 0;
-  for (; i + 1 < count; i += 2) {
-    if (i) *out++ = '.';
-    out = writeHexByte(data[i + 1], writeHexByte(data[i], out));
-  }
-  if (i < count) {
+  const int pairs = count & ~1;
+  char* out = writeHexGroups(data, pairs, 2, '.', text);
+  if (pairs < count) {
     *out++ = '-';
-    out = writeHexByte(data[i], out);
+    out = writeHexByte(data[pairs], out);
   }
   os.write(text, out - text);
   os.fill('0');

@@ -1,8 +1,8 @@
 #include "bgp/RouteKeyLayout.h"
 
 #include "address/GenericPrefix.h"
+#include "address/HexGroups.h"
 #include "bgp/RouteDistinguisher.h"
-#include "registry/HexDigits.h"
 
 #include <array>
 #include <cstddef>
@@ -10,6 +10,9 @@
 
 namespace Orvane {
 namespace {
+
+// The largest raw block of any layout.
+constexpr unsigned kMostRawBytes = 63;
 
 // A block of bytes whose meaning the key does not name: "0x" and its bytes as pairs of
 // lower-case hex digits, up to the last non-zero byte; ".." stands for the zero bytes
@@ -20,16 +23,15 @@ void printRawBytes(std::ostream& os, const unsigned char* p, unsigned size) {
   while (shown > 1 && p[shown - 1] == 0)
     --shown;
   os << "0x";
-  for (unsigned i = 0; i < shown; ++i) {
-    char digits[2];
-    writeHexByte(p[i], digits);
-    os.write(digits, 2);
-  }
+  char digits[2 * kMostRawBytes];
+  const int n = static_cast<int>(shown);
+  os.write(digits, writeHexGroups(p, n, n, ' ', digits) - digits); // one group: no separator
   if (shown < size)
     os << "..";
 }
 
 template <unsigned Size> unsigned formatRawBytes(const unsigned char* p, std::ostream& os) {
+  static_assert(Size <= kMostRawBytes);
   printRawBytes(os, p, Size);
   return Size;
 }
