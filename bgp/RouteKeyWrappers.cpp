@@ -2,6 +2,7 @@
 
 #include "bgp/AfiSafi.h"
 #include "bgp/NextHop.h"
+#include "bgp/NlriType.h"
 #include "bgp/RouteKey.h"
 #include "bgp/RouteKeyLayout.h"
 #include "registry/Bytes.h"
