@@ -14,12 +14,10 @@
 
 namespace Orvane {
 
-/// Writes four raw network-order bytes as a dotted IPv4 address, or "unknown".
-void printIpv4Bytes(std::ostream& os, const unsigned char* bytes);
-/// Writes 16 raw network-order bytes as an IPv6 address, or "unknown".
-void printIpv6Bytes(std::ostream& os, const unsigned char* bytes);
-/// printIpv4Bytes() and printIpv6Bytes() as fields of a longer text (TextRun::join).
+/// Joins (TextRun::join) four raw network-order bytes as a dotted IPv4 address, or
+/// "unknown", to `text`.
 void printIpv4Bytes(TextRun& text, const unsigned char* bytes);
+/// Joins 16 raw network-order bytes as an IPv6 address, or "unknown", to `text`.
 void printIpv6Bytes(TextRun& text, const unsigned char* bytes);
 
 /// The append forms (TextRun.h) of formatIp, formatIp6Addr, formatIpPrefix,

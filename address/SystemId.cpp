@@ -6,9 +6,17 @@
 
 namespace Orvane {
 
-unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
-  printHexGroups(os, p, 6, 2, '.');
+namespace {
+
+unsigned appendIsisSystemId(const unsigned char* p, TextRun& text) {
+  printHexGroups(text, p, 6, 2, '.');
   return lengthIsisSystemId(p);
+}
+
+} // namespace
+
+unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIsisSystemId>(p, os);
 }
 unsigned lengthIsisSystemId(const unsigned char*) { return 6; }
 

@@ -128,11 +128,6 @@ private:
   char text_[kCapacity];
 };
 
-/// Prints the text of a field that is an insertion of its own on a stream, and joins
-/// it (TextRun::join) within a run: code written once for both takes either.
-inline void printField(std::ostream& os, std::string_view text) { os << text; }
-inline void printField(TextRun& run, std::string_view text) { run.join(text); }
-
 /// A formatter's append form: adds the text of the value at `p` to `text` (through
 /// join() and number(), so that it prints as the format form would) and returns the
 /// value's size, as the format form does.
