@@ -112,7 +112,7 @@ std::string conflicts(const Options& options) {
   const int modes =
       options.list + options.batch + !options.record.empty() + options.describe.has_value();
   if (modes == 0) return "nothing to do: give ID HEX..., --batch or --list";
-  if (modes > 1) return "give only one of ID HEX..., --batch and --list";
+  if (modes > 1) return "give only one of ID HEX..., --batch, --list and --describe";
   if (options.separatorGiven && options.layout)
     return "give --sep or --template, not both: the template holds the text between arguments";
   if (options.print.counts && (options.separatorGiven || options.layout))
