@@ -30,8 +30,9 @@ std::string exampleText(const IdEntry& entry) {
 }
 
 // A label as a table cell: in backticks, or empty.
-std::string labelCell(std::string_view label) {
-  return label.empty() ? "" : "`" + std::string(label) + "`";
+void writeLabelCell(std::string_view label, std::ostream& os) {
+  os << "| ";
+  if (!label.empty()) os << '`' << label << '`';
 }
 
 void describeFields(const LabeledField* field, std::ostream& os) {
@@ -40,7 +41,8 @@ void describeFields(const LabeledField* field, std::ostream& os) {
   bool fixed = true;
   for (; field->kind; ++field) {
     const FieldKind& kind = *field->kind;
-    os << "| " << labelCell(field->label) << " | " << kind.name << " | ";
+    writeLabelCell(field->label, os);
+    os << " | " << kind.name << " | ";
     if (kind.size)
       os << kind.size;
     else
@@ -49,7 +51,8 @@ void describeFields(const LabeledField* field, std::ostream& os) {
     total += kind.size;
     fixed = fixed && kind.size;
   }
-  os << "| " << labelCell(field->label) << " | (end) | |\n\nLength: ";
+  writeLabelCell(field->label, os);
+  os << " | (end) | |\n\nLength: ";
   if (fixed)
     os << total << " bytes, the fields' sizes added.\n";
   else
