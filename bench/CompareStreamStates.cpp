@@ -3,7 +3,7 @@
 // that one through two ovfmt builds).
 //
 //   compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]
-//   compare_stream_states --freeze PLUGIN DEMO_FILE > registry/stream-states.txt
+//   compare_stream_states --freeze PLUGIN BATCH_FILE... > registry/stream-states.txt
 //
 // Loads both plug-ins into this one host process, each with its own functions (they
 // are bound inside each library), and takes each one's formatMap. Every value of
@@ -13,8 +13,9 @@
 // places them. Compared: the text, the count returned, and the stream afterwards
 // (flags, width, fill, rdstate).
 //
-// --freeze prints what one plug-in does with every value of DEMO_FILE in every state, as
-// the vector file the test suite checks (tests/formatters/StreamStatesTest.cpp).
+// --freeze prints what one plug-in does with every value of the batch files in every
+// state, as the vector file the test suite checks (tests/formatters/StreamStatesTest.cpp):
+// examples/demo.txt and registry/stream-state-values.txt.
 //
 // One difference is expected and counted apart: when the stream buffer refuses text,
 // text that several insertions wrote may now be one insertion, which fails once (bad)
@@ -82,11 +83,15 @@ void compare(const std::string& id, const std::vector<unsigned char>& bytes, con
               << ")\n";
 }
 
-// Prints a vector line per stream state and value of the demo file, as `plugin` formats
+// Prints a vector line per stream state and value of the batch files, as `plugin` formats
 // them: registry/stream-states.txt, which the test StreamStates.FrozenVectors checks.
-int freeze(const std::string& plugin, const std::string& demoPath) {
+int freeze(const std::string& plugin, const std::vector<std::string>& paths) {
   const FormatMap& map = loadFormatMap(plugin);
-  const auto demo = bench::readTraceValues(demoPath);
+  std::vector<bench::TraceValue> demo;
+  for (const std::string& path : paths) {
+    auto values = bench::readTraceValues(path);
+    demo.insert(demo.end(), values.begin(), values.end());
+  }
   decoding::GuardedBuffer placed;
   for (const StreamState& state : streamStates())
     for (const auto& value : demo) {
@@ -102,11 +107,13 @@ int freeze(const std::string& plugin, const std::string& demoPath) {
 } // namespace
 
 int main(int argc, char** argv) try {
-  if (argc == 4 && std::string(argv[1]) == "--freeze") return freeze(argv[2], argv[3]);
+  if (argc >= 4 && std::string(argv[1]) == "--freeze")
+    return freeze(argv[2], std::vector<std::string>(argv + 3, argv + argc));
   if (argc < 4) {
     std::cerr
         << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]\n"
-           "       compare_stream_states --freeze PLUGIN DEMO_FILE > registry/stream-states.txt\n";
+           "       compare_stream_states --freeze PLUGIN BATCH_FILE... > "
+           "registry/stream-states.txt\n";
     return 2;
   }
   const FormatMap& old = loadFormatMap(argv[1]);

@@ -1,4 +1,5 @@
-// The stream-state vectors: every value of the demo file formatted on a stream in each
+// The stream-state vectors: every value of the demo file (and of
+// registry/stream-state-values.txt, where the literal rule shows) formatted on a stream in each
 // state a caller may leave it in (widths and fills, bases, showpos, a grouping locale,
 // error states, buffers that refuse text), with the text, the count and the stream
 // afterwards frozen in registry/stream-states.txt. A change in how literals meet a
