@@ -5,9 +5,11 @@ namespace Orvane {
 unsigned printFields(const LabeledField* field, const unsigned char* p, unsigned off,
                      TextRun& text) {
   for (; field->kind; ++field) {
-    text << field->label;
     const FieldKind& kind = *field->kind;
-    off += kind.append ? kind.append(at(p, off), text) : kind.format(at(p, off), text.flush());
+    if (kind.append)
+      off += kind.append(at(p, off), text << field->label);
+    else
+      off += kind.format(at(p, off), text.flushWith(field->label));
   }
   text << field->label;
   return off;

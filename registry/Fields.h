@@ -36,6 +36,7 @@
 #include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
+#include <cstddef>
 #include <ostream>
 
 namespace Orvane {
@@ -54,14 +55,49 @@ unsigned formatFields(const LabeledField* fields, const unsigned char* p, std::o
 /// The final offset of the same walk, printing nothing.
 unsigned measureFields(const LabeledField* fields, const unsigned char* p, unsigned start = 0);
 
-/// The format and length functions of the table `Fields`: what a composite's exported
-/// functions return, and a kind's functions when a key is a field of another.
+namespace detail {
+
+// The walks of printFields() and measureFields() unrolled over a table known when
+// compiling: each field's functions are called directly, each label is a constant.
+template <const LabeledField* Fields, std::size_t I = 0>
+unsigned printTable(const unsigned char* p, unsigned off, TextRun& text) {
+  constexpr LabeledField field = Fields[I];
+  if constexpr (field.kind == nullptr) {
+    text << field.label;
+    return off;
+  } else {
+    constexpr FieldKind kind = *field.kind;
+    if constexpr (kind.append != nullptr)
+      off += kind.append(at(p, off), text << field.label);
+    else
+      off += kind.format(at(p, off), text.flushWith(field.label));
+    return printTable<Fields, I + 1>(p, off, text);
+  }
+}
+
+template <const LabeledField* Fields, std::size_t I = 0>
+unsigned measureTable(const unsigned char* p, unsigned off) {
+  constexpr const FieldKind* kind = Fields[I].kind;
+  if constexpr (kind == nullptr)
+    return off;
+  else
+    return measureTable<Fields, I + 1>(p, off + kind->length(at(p, off)));
+}
+
+} // namespace detail
+
+/// The format and length functions of the table `Fields`, the same walks as
+/// formatFields() and measureFields() unrolled: what a composite's exported functions
+/// return, and a kind's functions when a key is a field of another.
 template <const LabeledField* Fields>
 unsigned formatTable(const unsigned char* p, std::ostream& os) {
-  return formatFields(Fields, p, os);
+  TextRun text(os);
+  const unsigned off = detail::printTable<Fields>(p, 0, text);
+  text.flush();
+  return off;
 }
 template <const LabeledField* Fields> unsigned lengthTable(const unsigned char* p) {
-  return measureFields(Fields, p);
+  return detail::measureTable<Fields>(p, 0);
 }
 
 } // namespace Orvane

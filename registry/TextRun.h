@@ -86,9 +86,10 @@ public:
     return *this;
   }
 
-  /// join(piece) and then flush(), without copying `piece` when nothing is pending.
+  /// `*this << piece` and then flush(), without copying `piece` when nothing is pending:
+  /// the pending text and `piece` are one insertion.
   std::ostream& flushWith(std::string_view piece) {
-    if (size_ > 0) return join(piece).flush();
+    if (size_ > 0 || piece.empty()) return (*this << piece).flush();
     plainDecimal_ = kNotChecked;
     return os_ << piece;
   }

@@ -56,15 +56,14 @@ const RunCase kCases[] = {
      [](std::ostream& os) { os << "<" << kLong << kLong << ">"; }},
     {"flushWith, nothing pending", [](TextRun& t) { t.flushWith("z"); },
      [](std::ostream& os) { os << "z"; }},
-    {"flushWith after pending text",
+    {"flushWith after pending text: one insertion",
      [](TextRun& t) {
        t << "y";
        t.flushWith("z");
      },
-     [](std::ostream& os) {
-       os << "y"
-          << "z";
-     }},
+     [](std::ostream& os) { os << "yz"; }},
+    {"flushWith of nothing inserts nothing", [](TextRun& t) { t.flushWith(""); },
+     [](std::ostream&) {}},
     {"numbers filling the run",
      [](TextRun& t) {
        for (int i = 0; i < 40; ++i) t.number(~0ull);
