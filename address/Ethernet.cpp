@@ -27,11 +27,12 @@ unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthEthColonSeparated(const unsigned char*) { return 6; }
 
-constexpr LabeledField kEthMaskFields[] = {{"", &kEthField}, {"/", &kEthField}, {""}};
+constexpr LabeledField kEthMaskRows[] = {{"", &kEthField}, {"/", &kEthField}, {""}};
+constexpr FieldTable kEthMaskFields{kEthMaskRows};
 unsigned formatEthMask(const unsigned char* p, std::ostream& os) {
-  return formatTable<kEthMaskFields>(p, os);
+  return formatTable<kEthMaskRows>(p, os);
 }
-unsigned lengthEthMask(const unsigned char* p) { return lengthTable<kEthMaskFields>(p); }
+unsigned lengthEthMask(const unsigned char* p) { return lengthTable<kEthMaskRows>(p); }
 
 unsigned appendEthSegment(const unsigned char* p, TextRun& text) {
   printHexGroups(text, p, 10, 2, ':');

@@ -20,7 +20,7 @@ ORVANE_API unsigned formatEthColonSeparated(const unsigned char* p, std::ostream
 ORVANE_API unsigned lengthEthColonSeparated(const unsigned char* p); ///< 6
 
 /// The table of "EM" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kEthMaskFields[];
+ORVANE_API extern const FieldTable kEthMaskFields;
 /// "EM": MAC "/" mask, both as "E". Returns 12.
 ORVANE_API unsigned formatEthMask(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthEthMask(const unsigned char* p); ///< 12

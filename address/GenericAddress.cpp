@@ -45,22 +45,24 @@ unsigned lengthIpGenAddrOpt(const unsigned char* p) {
   }
 }
 
-constexpr LabeledField kIpGenAddrWithFullMaskFields[] = {
+constexpr LabeledField kIpGenAddrWithFullMaskRows[] = {
     {"", &kIpGenAddrField}, {"/", &kIpGenAddrField}, {""}};
+constexpr FieldTable kIpGenAddrWithFullMaskFields{kIpGenAddrWithFullMaskRows};
 unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIpGenAddrWithFullMaskFields>(p, os);
+  return formatTable<kIpGenAddrWithFullMaskRows>(p, os);
 }
 unsigned lengthIpGenAddrWithFullMask(const unsigned char* p) {
-  return lengthTable<kIpGenAddrWithFullMaskFields>(p);
+  return lengthTable<kIpGenAddrWithFullMaskRows>(p);
 }
 
-constexpr LabeledField kIpGenAddrOptWithFullMaskFields[] = {
+constexpr LabeledField kIpGenAddrOptWithFullMaskRows[] = {
     {"", &kIpGenAddrOptField}, {"/", &kIpGenAddrOptField}, {""}};
+constexpr FieldTable kIpGenAddrOptWithFullMaskFields{kIpGenAddrOptWithFullMaskRows};
 unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIpGenAddrOptWithFullMaskFields>(p, os);
+  return formatTable<kIpGenAddrOptWithFullMaskRows>(p, os);
 }
 unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p) {
-  return lengthTable<kIpGenAddrOptWithFullMaskFields>(p);
+  return lengthTable<kIpGenAddrOptWithFullMaskRows>(p);
 }
 
 } // namespace Orvane

@@ -27,13 +27,13 @@ unsigned appendIpGenAddr(const unsigned char* p, TextRun& text);
 unsigned appendIpGenAddrOpt(const unsigned char* p, TextRun& text);
 
 /// The table of "IGM" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kIpGenAddrWithFullMaskFields[];
+ORVANE_API extern const FieldTable kIpGenAddrWithFullMaskFields;
 /// "IGM": address "/" mask, both generic addresses, e.g. 10.1.0.0/255.255.0.0. Returns 42.
 ORVANE_API unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIpGenAddrWithFullMask(const unsigned char* p); ///< 42
 
 /// The table of "IGMO" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kIpGenAddrOptWithFullMaskFields[];
+ORVANE_API extern const FieldTable kIpGenAddrOptWithFullMaskFields;
 /// "IGMO": as "IGM" over two Opt addresses, the mask starting where the address ends.
 ORVANE_API unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os);
 /// The two Opt lengths added.

@@ -20,11 +20,12 @@ unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthIsisSystemId(const unsigned char*) { return 6; }
 
-constexpr LabeledField kDsfSystemIdFields[] = {
+constexpr LabeledField kDsfSystemIdRows[] = {
     {"SystemId(", &kU8Field}, {", ", &kU16Field}, {", ", &kStringField}, {")"}};
+constexpr FieldTable kDsfSystemIdFields{kDsfSystemIdRows};
 unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os) {
-  return formatTable<kDsfSystemIdFields>(p, os);
+  return formatTable<kDsfSystemIdRows>(p, os);
 }
-unsigned lengthDsfSystemId(const unsigned char* p) { return lengthTable<kDsfSystemIdFields>(p); }
+unsigned lengthDsfSystemId(const unsigned char* p) { return lengthTable<kDsfSystemIdRows>(p); }
 
 } // namespace Orvane

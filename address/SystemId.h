@@ -13,7 +13,7 @@ ORVANE_API unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os)
 ORVANE_API unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
 
 /// The table of "DSFID" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kDsfSystemIdFields[];
+ORVANE_API extern const FieldTable kDsfSystemIdFields;
 /// "DSFID": "SystemId(" u8 ", " u16 ", " string ")" through the host's base formatters.
 /// Returns the three fields' counts added.
 ORVANE_API unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os);

@@ -122,13 +122,14 @@ unsigned formatRouteTarget(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthRouteTarget(const unsigned char*) { return 8; }
 
-constexpr LabeledField kRtMembershipRouteKeyFields[] = {
+constexpr LabeledField kRtMembershipRouteKeyRows[] = {
     {"origin: ", &kU32FixedField}, {";", &kMembershipTargetField}, {""}};
+constexpr FieldTable kRtMembershipRouteKeyFields{kRtMembershipRouteKeyRows};
 unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kRtMembershipRouteKeyFields>(p, os);
+  return formatTable<kRtMembershipRouteKeyRows>(p, os);
 }
 unsigned lengthRtMembershipRouteKey(const unsigned char* p) {
-  return lengthTable<kRtMembershipRouteKeyFields>(p);
+  return lengthTable<kRtMembershipRouteKeyRows>(p);
 }
 
 } // namespace Orvane

@@ -13,13 +13,14 @@ constexpr unsigned char kExtendedEntry = 1;
 
 } // namespace
 
-constexpr LabeledField kArpInputConfigKeyFields[] = {
+constexpr LabeledField kArpInputConfigKeyRows[] = {
     {"[", &kIpGenAddrOptField}, {"][", &kStringField}, {"]"}};
+constexpr FieldTable kArpInputConfigKeyFields{kArpInputConfigKeyRows};
 unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kArpInputConfigKeyFields>(p, os);
+  return formatTable<kArpInputConfigKeyRows>(p, os);
 }
 unsigned lengthArpInputConfigKey(const unsigned char* p) {
-  return lengthTable<kArpInputConfigKeyFields>(p);
+  return lengthTable<kArpInputConfigKeyRows>(p);
 }
 
 // An entry: the key and the MAC, then the flag and a number; the flag alone decides
@@ -48,23 +49,25 @@ unsigned lengthArpInputConfigEntry(const unsigned char* p) {
   return extended ? measureFields(kEntryExtension, p, off) : off;
 }
 
-constexpr LabeledField kArpInputPriorityKeyFields[] = {{"[", &kU8Field}, {"][", &kU32Field}, {"]"}};
+constexpr LabeledField kArpInputPriorityKeyRows[] = {{"[", &kU8Field}, {"][", &kU32Field}, {"]"}};
+constexpr FieldTable kArpInputPriorityKeyFields{kArpInputPriorityKeyRows};
 unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kArpInputPriorityKeyFields>(p, os);
+  return formatTable<kArpInputPriorityKeyRows>(p, os);
 }
 unsigned lengthArpInputPriorityKey(const unsigned char* p) {
-  return lengthTable<kArpInputPriorityKeyFields>(p);
+  return lengthTable<kArpInputPriorityKeyRows>(p);
 }
 
 constexpr FieldKind kArpInputPriorityKeyField{formatArpInputPriorityKey, lengthArpInputPriorityKey,
                                               nullptr, "ARP input priority key (ARPIPK)"};
-constexpr LabeledField kArpInputPriorityInterfaceKeyFields[] = {
+constexpr LabeledField kArpInputPriorityInterfaceKeyRows[] = {
     {"", &kArpInputPriorityKeyField}, {"[", &kStringField}, {"]"}};
+constexpr FieldTable kArpInputPriorityInterfaceKeyFields{kArpInputPriorityInterfaceKeyRows};
 unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kArpInputPriorityInterfaceKeyFields>(p, os);
+  return formatTable<kArpInputPriorityInterfaceKeyRows>(p, os);
 }
 unsigned lengthArpInputPriorityInterfaceKey(const unsigned char* p) {
-  return lengthTable<kArpInputPriorityInterfaceKeyFields>(p);
+  return lengthTable<kArpInputPriorityInterfaceKeyRows>(p);
 }
 
 } // namespace Orvane

@@ -10,7 +10,7 @@
 namespace Orvane {
 
 /// The table of "ARPICK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kArpInputConfigKeyFields[];
+ORVANE_API extern const FieldTable kArpInputConfigKeyFields;
 /// "ARPICK": "[" address as "IGO" "][" interface string "]". An address tag other than
 /// 1 or 2 makes the address one byte long and print [unknown].
 ORVANE_API unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os);
@@ -24,14 +24,14 @@ ORVANE_API unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostre
 ORVANE_API unsigned lengthArpInputConfigEntry(const unsigned char* p);
 
 /// The table of "ARPIPK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kArpInputPriorityKeyFields[];
+ORVANE_API extern const FieldTable kArpInputPriorityKeyFields;
 /// "ARPIPK": "[" u8 "][" u32 "]".
 ORVANE_API unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os);
 /// lengthU8 + lengthU32.
 ORVANE_API unsigned lengthArpInputPriorityKey(const unsigned char* p);
 
 /// The table of "ARPIPIK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kArpInputPriorityInterfaceKeyFields[];
+ORVANE_API extern const FieldTable kArpInputPriorityInterfaceKeyFields;
 /// "ARPIPIK": an "ARPIPK" key, then "[" interface string "]".
 ORVANE_API unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os);
 /// lengthArpInputPriorityKey + lengthString.

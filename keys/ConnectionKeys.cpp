@@ -22,57 +22,61 @@ unsigned formatConnTuple(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthConnTuple(const unsigned char*) { return 13; }
 
-constexpr LabeledField kNatStaticKeyFields[] = {
+constexpr LabeledField kNatStaticKeyRows[] = {
     {"acl: ", &kStringField}, {", addr: ", &kIpAndPortField}, {""}};
+constexpr FieldTable kNatStaticKeyFields{kNatStaticKeyRows};
 unsigned formatNatStaticKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kNatStaticKeyFields>(p, os);
+  return formatTable<kNatStaticKeyRows>(p, os);
 }
-unsigned lengthNatStaticKey(const unsigned char* p) { return lengthTable<kNatStaticKeyFields>(p); }
+unsigned lengthNatStaticKey(const unsigned char* p) { return lengthTable<kNatStaticKeyRows>(p); }
 
-constexpr LabeledField kNatDynamicKeyFields[] = {
+constexpr LabeledField kNatDynamicKeyRows[] = {
     {"acl: ", &kStringField}, {", group: ", &kU16Field}, {""}};
+constexpr FieldTable kNatDynamicKeyFields{kNatDynamicKeyRows};
 unsigned formatNatDynamicKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kNatDynamicKeyFields>(p, os);
+  return formatTable<kNatDynamicKeyRows>(p, os);
 }
-unsigned lengthNatDynamicKey(const unsigned char* p) {
-  return lengthTable<kNatDynamicKeyFields>(p);
-}
+unsigned lengthNatDynamicKey(const unsigned char* p) { return lengthTable<kNatDynamicKeyRows>(p); }
 
 constexpr FieldKind kConnTupleField{formatConnTuple, lengthConnTuple, nullptr,
                                     "connection tuple (C)", 13};
-constexpr LabeledField kNatDynamicConnFields[] = {
+constexpr LabeledField kNatDynamicConnRows[] = {
     {"intf: ", &kStringField}, {", conn: ", &kConnTupleField}, {""}};
+constexpr FieldTable kNatDynamicConnFields{kNatDynamicConnRows};
 unsigned formatNatDynamicConn(const unsigned char* p, std::ostream& os) {
-  return formatTable<kNatDynamicConnFields>(p, os);
+  return formatTable<kNatDynamicConnRows>(p, os);
 }
 unsigned lengthNatDynamicConn(const unsigned char* p) {
-  return lengthTable<kNatDynamicConnFields>(p);
+  return lengthTable<kNatDynamicConnRows>(p);
 }
 
-constexpr LabeledField kUpnpPortMapKeyFields[] = {
+constexpr LabeledField kUpnpPortMapKeyRows[] = {
     {"(", &kIpField}, {":", &kU16Field}, {":", &kU8Field}, {")"}};
+constexpr FieldTable kUpnpPortMapKeyFields{kUpnpPortMapKeyRows};
 unsigned formatUpnpPortMapKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kUpnpPortMapKeyFields>(p, os);
+  return formatTable<kUpnpPortMapKeyRows>(p, os);
 }
 unsigned lengthUpnpPortMapKey(const unsigned char* p) {
-  return lengthTable<kUpnpPortMapKeyFields>(p);
+  return lengthTable<kUpnpPortMapKeyRows>(p);
 }
 
-constexpr LabeledField kIpFlowKeyFields[] = {{"vrfId:", &kU32Field},      {" vlanId:", &kU16Field},
-                                             {" srcAddr:", &kIpField},    {" dstAddr:", &kIpField},
-                                             {" ipProtocol:", &kU8Field}, {" srcPort:", &kU16Field},
-                                             {" dstPort:", &kU16Field},   {""}};
+constexpr LabeledField kIpFlowKeyRows[] = {{"vrfId:", &kU32Field},      {" vlanId:", &kU16Field},
+                                           {" srcAddr:", &kIpField},    {" dstAddr:", &kIpField},
+                                           {" ipProtocol:", &kU8Field}, {" srcPort:", &kU16Field},
+                                           {" dstPort:", &kU16Field},   {""}};
+constexpr FieldTable kIpFlowKeyFields{kIpFlowKeyRows};
 unsigned formatIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIpFlowKeyFields>(p, os);
+  return formatTable<kIpFlowKeyRows>(p, os);
 }
-unsigned lengthIpFlowKey(const unsigned char* p) { return lengthTable<kIpFlowKeyFields>(p); }
+unsigned lengthIpFlowKey(const unsigned char* p) { return lengthTable<kIpFlowKeyRows>(p); }
 
 constexpr FieldKind kIpFlowKeyField{formatIpFlowKey, lengthIpFlowKey, nullptr, "IP flow key (IFK)"};
-constexpr LabeledField kHoIpFlowKeyFields[] = {
+constexpr LabeledField kHoIpFlowKeyRows[] = {
     {"", &kIpFlowKeyField}, {" intf:", &kStringField}, {""}};
+constexpr FieldTable kHoIpFlowKeyFields{kHoIpFlowKeyRows};
 unsigned formatHoIpFlowKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kHoIpFlowKeyFields>(p, os);
+  return formatTable<kHoIpFlowKeyRows>(p, os);
 }
-unsigned lengthHoIpFlowKey(const unsigned char* p) { return lengthTable<kHoIpFlowKeyFields>(p); }
+unsigned lengthHoIpFlowKey(const unsigned char* p) { return lengthTable<kHoIpFlowKeyRows>(p); }
 
 } // namespace Orvane

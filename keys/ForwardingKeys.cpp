@@ -20,68 +20,73 @@ unsigned formatFapmask(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthFapmask(const unsigned char*) { return 16; }
 
-constexpr LabeledField kOutAcTypeKeyFields[] = {
+constexpr LabeledField kOutAcTypeKeyRows[] = {
     {"(fapId: ", &kU16Field}, {", acIndex: ", &kU32Field}, {", outAcType: ", &kU8Field}, {")"}};
+constexpr FieldTable kOutAcTypeKeyFields{kOutAcTypeKeyRows};
 unsigned formatOutAcTypeKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kOutAcTypeKeyFields>(p, os);
+  return formatTable<kOutAcTypeKeyRows>(p, os);
 }
-unsigned lengthOutAcTypeKey(const unsigned char* p) { return lengthTable<kOutAcTypeKeyFields>(p); }
+unsigned lengthOutAcTypeKey(const unsigned char* p) { return lengthTable<kOutAcTypeKeyRows>(p); }
 
-constexpr LabeledField kOutAcKeyFields[] = {{"(fapMask: ", &kFapmaskField},
-                                            {", acFormat: ", &kU32Field},
-                                            {", ", &kU32Field},
-                                            {", ", &kU32Field},
-                                            {", acIndex: ", &kU32Field},
-                                            {", pool: ", &kU8Field},
-                                            {", appId: ", &kU8Field},
-                                            {", intfId: ", &kStringField},
-                                            {", vlanId: ", &kU16Field},
-                                            {", innerOutlif: ", &kU32Field},
-                                            {", isL2SubIntf: ", &kBoolField},
-                                            {")"}};
+constexpr LabeledField kOutAcKeyRows[] = {{"(fapMask: ", &kFapmaskField},
+                                          {", acFormat: ", &kU32Field},
+                                          {", ", &kU32Field},
+                                          {", ", &kU32Field},
+                                          {", acIndex: ", &kU32Field},
+                                          {", pool: ", &kU8Field},
+                                          {", appId: ", &kU8Field},
+                                          {", intfId: ", &kStringField},
+                                          {", vlanId: ", &kU16Field},
+                                          {", innerOutlif: ", &kU32Field},
+                                          {", isL2SubIntf: ", &kBoolField},
+                                          {")"}};
+constexpr FieldTable kOutAcKeyFields{kOutAcKeyRows};
 unsigned formatOutAcKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kOutAcKeyFields>(p, os);
+  return formatTable<kOutAcKeyRows>(p, os);
 }
-unsigned lengthOutAcKey(const unsigned char* p) { return lengthTable<kOutAcKeyFields>(p); }
+unsigned lengthOutAcKey(const unsigned char* p) { return lengthTable<kOutAcKeyRows>(p); }
 
-constexpr LabeledField kSviEgressEveKeyFields[] = {{"(vlanIntfId: ", &kStringField},
-                                                   {", intfId: ", &kStringField},
-                                                   {", fapId: ", &kU16Field},
-                                                   {", lagIntfId: ", &kStringField},
-                                                   {")"}};
+constexpr LabeledField kSviEgressEveKeyRows[] = {{"(vlanIntfId: ", &kStringField},
+                                                 {", intfId: ", &kStringField},
+                                                 {", fapId: ", &kU16Field},
+                                                 {", lagIntfId: ", &kStringField},
+                                                 {")"}};
+constexpr FieldTable kSviEgressEveKeyFields{kSviEgressEveKeyRows};
 unsigned formatSviEgressEveKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kSviEgressEveKeyFields>(p, os);
+  return formatTable<kSviEgressEveKeyRows>(p, os);
 }
 unsigned lengthSviEgressEveKey(const unsigned char* p) {
-  return lengthTable<kSviEgressEveKeyFields>(p);
+  return lengthTable<kSviEgressEveKeyRows>(p);
 }
 
 constexpr FieldKind kSviEgressEveKeyField{formatSviEgressEveKey, lengthSviEgressEveKey, nullptr,
                                           "SVI egress EVE key (SVIEVE)"};
 constexpr FieldKind kOutAcTypeKeyField{formatOutAcTypeKey, lengthOutAcTypeKey, nullptr,
                                        "out-AC type key (OUTACTYPE)"};
-constexpr LabeledField kSviEgressEsemRequestKeyFields[] = {
+constexpr LabeledField kSviEgressEsemRequestKeyRows[] = {
     {"(eveKey: ", &kSviEgressEveKeyField}, {", outAcTypeKey: ", &kOutAcTypeKeyField}, {")"}};
+constexpr FieldTable kSviEgressEsemRequestKeyFields{kSviEgressEsemRequestKeyRows};
 unsigned formatSviEgressEsemRequestKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kSviEgressEsemRequestKeyFields>(p, os);
+  return formatTable<kSviEgressEsemRequestKeyRows>(p, os);
 }
 unsigned lengthSviEgressEsemRequestKey(const unsigned char* p) {
-  return lengthTable<kSviEgressEsemRequestKeyFields>(p);
+  return lengthTable<kSviEgressEsemRequestKeyRows>(p);
 }
 
-constexpr LabeledField kUdfDescFields[] = {{"", &kStringField},
-                                           {" ethtype:0x", &kU16HexField},
-                                           {" ", &kStringField},
-                                           {" ipProto:", &kU8Field},
-                                           {" innerEthType:0x", &kU16HexField},
-                                           {" offset:", &kU8Field},
-                                           {" length:", &kU8Field},
-                                           {" lagMask:0x", &kU32HexField},
-                                           {" priority:", &kU8Field},
-                                           {""}};
+constexpr LabeledField kUdfDescRows[] = {{"", &kStringField},
+                                         {" ethtype:0x", &kU16HexField},
+                                         {" ", &kStringField},
+                                         {" ipProto:", &kU8Field},
+                                         {" innerEthType:0x", &kU16HexField},
+                                         {" offset:", &kU8Field},
+                                         {" length:", &kU8Field},
+                                         {" lagMask:0x", &kU32HexField},
+                                         {" priority:", &kU8Field},
+                                         {""}};
+constexpr FieldTable kUdfDescFields{kUdfDescRows};
 unsigned formatUdfDesc(const unsigned char* p, std::ostream& os) {
-  return formatTable<kUdfDescFields>(p, os);
+  return formatTable<kUdfDescRows>(p, os);
 }
-unsigned lengthUdfDesc(const unsigned char* p) { return lengthTable<kUdfDescFields>(p); }
+unsigned lengthUdfDesc(const unsigned char* p) { return lengthTable<kUdfDescRows>(p); }
 
 } // namespace Orvane

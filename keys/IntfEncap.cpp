@@ -23,20 +23,22 @@ unsigned formatEncap(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthEncap(const unsigned char* p) { return lengthU16(p) * 2 + lengthU8(p); }
 
-constexpr LabeledField kIntfEncapFields[] = {
+constexpr LabeledField kIntfEncapRows[] = {
     {"", &kStringField}, {"(", &kU16Field}, {",", &kU16Field}, {")"}};
+constexpr FieldTable kIntfEncapFields{kIntfEncapRows};
 unsigned formatIntfEncap(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIntfEncapFields>(p, os);
+  return formatTable<kIntfEncapRows>(p, os);
 }
-unsigned lengthIntfEncap(const unsigned char* p) { return lengthTable<kIntfEncapFields>(p); }
+unsigned lengthIntfEncap(const unsigned char* p) { return lengthTable<kIntfEncapRows>(p); }
 
 constexpr FieldKind kEncapField{formatEncap, lengthEncap, nullptr,
                                 "VLAN tag (u16 id, u16 TPID, u8 priority)", 5};
-constexpr LabeledField kIntfEncapV2Fields[] = {
+constexpr LabeledField kIntfEncapV2Rows[] = {
     {"", &kStringField}, {"(", &kEncapField}, {",", &kEncapField}, {")"}};
+constexpr FieldTable kIntfEncapV2Fields{kIntfEncapV2Rows};
 unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIntfEncapV2Fields>(p, os);
+  return formatTable<kIntfEncapV2Rows>(p, os);
 }
-unsigned lengthIntfEncapV2(const unsigned char* p) { return lengthTable<kIntfEncapV2Fields>(p); }
+unsigned lengthIntfEncapV2(const unsigned char* p) { return lengthTable<kIntfEncapV2Rows>(p); }
 
 } // namespace Orvane

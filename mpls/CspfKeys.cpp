@@ -37,12 +37,13 @@ unsigned lengthCspfVertex(const unsigned char* p) {
 }
 
 // A fixed 4 for the id: the size table alone decides this key's size.
-constexpr LabeledField kCspfPathKeyFields[] = {
+constexpr LabeledField kCspfPathKeyRows[] = {
     {"dst=", &kCspfVertexField}, {", id=", &kU32FixedField}, {""}};
+constexpr FieldTable kCspfPathKeyFields{kCspfPathKeyRows};
 unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kCspfPathKeyFields>(p, os);
+  return formatTable<kCspfPathKeyRows>(p, os);
 }
-unsigned lengthCspfPathKey(const unsigned char* p) { return lengthTable<kCspfPathKeyFields>(p); }
+unsigned lengthCspfPathKey(const unsigned char* p) { return lengthTable<kCspfPathKeyRows>(p); }
 
 // The client key's bodies, after its kind byte.
 constexpr FieldKind kPathKeyField{formatCspfPathKey, lengthCspfPathKey, nullptr, "CSPF path key"};
@@ -66,12 +67,13 @@ unsigned lengthCspfClientPathKey(const unsigned char* p) {
   }
 }
 
-constexpr LabeledField kCspfP2mpPathKeyFields[] = {{"id=", &kU32FixedField}, {""}};
+constexpr LabeledField kCspfP2mpPathKeyRows[] = {{"id=", &kU32FixedField}, {""}};
+constexpr FieldTable kCspfP2mpPathKeyFields{kCspfP2mpPathKeyRows};
 unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kCspfP2mpPathKeyFields>(p, os);
+  return formatTable<kCspfP2mpPathKeyRows>(p, os);
 }
 unsigned lengthCspfP2mpPathKey(const unsigned char* p) {
-  return lengthTable<kCspfP2mpPathKeyFields>(p);
+  return lengthTable<kCspfP2mpPathKeyRows>(p);
 }
 
 } // namespace Orvane

@@ -28,7 +28,7 @@ ORVANE_API unsigned formatCspfVertex(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthCspfVertex(const unsigned char* p);
 
 /// The table of "CPK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kCspfPathKeyFields[];
+ORVANE_API extern const FieldTable kCspfPathKeyFields;
 /// "CPK": "dst=" vertex ", id=" u32. Returns the vertex and u32 counts added.
 ORVANE_API unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os);
 /// The vertex size + 4 (3 after an invalid vertex, wrapped).
@@ -43,7 +43,7 @@ ORVANE_API unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream
 ORVANE_API unsigned lengthCspfClientPathKey(const unsigned char* p);
 
 /// The table of "CP2MPK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kCspfP2mpPathKeyFields[];
+ORVANE_API extern const FieldTable kCspfP2mpPathKeyFields;
 /// "CP2MPK": "id=" u32. Returns the u32 count.
 ORVANE_API unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os);
 /// 4.

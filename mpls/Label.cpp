@@ -115,11 +115,12 @@ unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthGlobalFecId(const unsigned char*) { return 10; }
 
-constexpr LabeledField kLfibViaKeyFields[] = {
+constexpr LabeledField kLfibViaKeyRows[] = {
     {"(", &kU8FixedField}, {",", &kU32FixedField}, {",", &kU8FixedField}, {")"}};
+constexpr FieldTable kLfibViaKeyFields{kLfibViaKeyRows};
 unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kLfibViaKeyFields>(p, os);
+  return formatTable<kLfibViaKeyRows>(p, os);
 }
-unsigned lengthLfibViaKey(const unsigned char* p) { return lengthTable<kLfibViaKeyFields>(p); }
+unsigned lengthLfibViaKey(const unsigned char* p) { return lengthTable<kLfibViaKeyRows>(p); }
 
 } // namespace Orvane

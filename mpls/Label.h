@@ -52,7 +52,7 @@ ORVANE_API unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthGlobalFecId(const unsigned char* p); ///< 10
 
 /// The table of "LVK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kLfibViaKeyFields[];
+ORVANE_API extern const FieldTable kLfibViaKeyFields;
 /// "LVK": "(" u8 "," u32 "," u8 ")" through the host's base formatters. Returns 6.
 ORVANE_API unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthLfibViaKey(const unsigned char* p); ///< 6

@@ -27,20 +27,22 @@ const char* joinStateName(const unsigned char* p, const char* const (&names)[3])
 
 } // namespace
 
-constexpr LabeledField kMRouteKeyFields[] = {
+constexpr LabeledField kMRouteKeyRows[] = {
     {"(", &kIpGenAddrField}, {", ", &kIpGenAddrField}, {")"}};
+constexpr FieldTable kMRouteKeyFields{kMRouteKeyRows};
 unsigned formatMRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kMRouteKeyFields>(p, os);
+  return formatTable<kMRouteKeyRows>(p, os);
 }
-unsigned lengthMRouteKey(const unsigned char* p) { return lengthTable<kMRouteKeyFields>(p); }
+unsigned lengthMRouteKey(const unsigned char* p) { return lengthTable<kMRouteKeyRows>(p); }
 
-constexpr LabeledField kMRouteKeyOptimizedFields[] = {
+constexpr LabeledField kMRouteKeyOptimizedRows[] = {
     {"(", &kIpGenAddrOptField}, {", ", &kIpGenAddrOptField}, {")"}};
+constexpr FieldTable kMRouteKeyOptimizedFields{kMRouteKeyOptimizedRows};
 unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatTable<kMRouteKeyOptimizedFields>(p, os);
+  return formatTable<kMRouteKeyOptimizedRows>(p, os);
 }
 unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
-  return lengthTable<kMRouteKeyOptimizedFields>(p);
+  return lengthTable<kMRouteKeyOptimizedRows>(p);
 }
 
 unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
@@ -71,29 +73,32 @@ unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os) 
 }
 unsigned lengthMRouteIntfRptJoinState(const unsigned char*) { return 4; }
 
-constexpr LabeledField kMfibRouteKeyFields[] = {
+constexpr LabeledField kMfibRouteKeyRows[] = {
     {"(", &kIpPrefixField}, {", ", &kIpPrefixField}, {")"}};
+constexpr FieldTable kMfibRouteKeyFields{kMfibRouteKeyRows};
 unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kMfibRouteKeyFields>(p, os);
+  return formatTable<kMfibRouteKeyRows>(p, os);
 }
-unsigned lengthMfibRouteKey(const unsigned char* p) { return lengthTable<kMfibRouteKeyFields>(p); }
+unsigned lengthMfibRouteKey(const unsigned char* p) { return lengthTable<kMfibRouteKeyRows>(p); }
 
-constexpr LabeledField kMfibGenRouteKeyFields[] = {
+constexpr LabeledField kMfibGenRouteKeyRows[] = {
     {"(", &kIpGenPrefixField}, {", ", &kIpGenPrefixField}, {")"}};
+constexpr FieldTable kMfibGenRouteKeyFields{kMfibGenRouteKeyRows};
 unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kMfibGenRouteKeyFields>(p, os);
+  return formatTable<kMfibGenRouteKeyRows>(p, os);
 }
 unsigned lengthMfibGenRouteKey(const unsigned char* p) {
-  return lengthTable<kMfibGenRouteKeyFields>(p);
+  return lengthTable<kMfibGenRouteKeyRows>(p);
 }
 
-constexpr LabeledField kMfibGenRouteKeyOptimizedFields[] = {
+constexpr LabeledField kMfibGenRouteKeyOptimizedRows[] = {
     {"(", &kIpGenPrefixOptimizedField}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
+constexpr FieldTable kMfibGenRouteKeyOptimizedFields{kMfibGenRouteKeyOptimizedRows};
 unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatTable<kMfibGenRouteKeyOptimizedFields>(p, os);
+  return formatTable<kMfibGenRouteKeyOptimizedRows>(p, os);
 }
 unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p) {
-  return lengthTable<kMfibGenRouteKeyOptimizedFields>(p);
+  return lengthTable<kMfibGenRouteKeyOptimizedRows>(p);
 }
 
 unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os) {

@@ -30,14 +30,14 @@ inline constexpr std::pair<unsigned, const char*> kMulticastTunnelTypeNameEntrie
 extern const NameTable multicastTunnelTypeNames;
 
 /// The table of "MK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kMRouteKeyFields[];
+ORVANE_API extern const FieldTable kMRouteKeyFields;
 /// "MK": "(" generic address ", " generic address ")". Returns 42.
 ORVANE_API unsigned formatMRouteKey(const unsigned char* p, std::ostream& os);
 /// 42.
 ORVANE_API unsigned lengthMRouteKey(const unsigned char* p);
 
 /// The table of "MKO" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kMRouteKeyOptimizedFields[];
+ORVANE_API extern const FieldTable kMRouteKeyOptimizedFields;
 /// "MKO": as "MK" with Opt addresses.
 ORVANE_API unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Opt address sizes (5, 17 or 1 each) added.
@@ -63,7 +63,7 @@ ORVANE_API unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::os
 ORVANE_API unsigned lengthMRouteIntfRptJoinState(const unsigned char* p);
 
 /// The table of "MFK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kMfibRouteKeyFields[];
+ORVANE_API extern const FieldTable kMfibRouteKeyFields;
 /// "MFK": "(" IPv4 "/" u8 ", " IPv4 "/" u8 ")", the lengths in decimal:
 /// (10.0.0.1/32, 239.1.1.1/32). Returns 10.
 ORVANE_API unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os);
@@ -71,14 +71,14 @@ ORVANE_API unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os)
 ORVANE_API unsigned lengthMfibRouteKey(const unsigned char* p);
 
 /// The table of "MFGK" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kMfibGenRouteKeyFields[];
+ORVANE_API extern const FieldTable kMfibGenRouteKeyFields;
 /// "MFGK": "(" generic prefix ", " generic prefix ")". Returns 36.
 ORVANE_API unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os);
 /// 36.
 ORVANE_API unsigned lengthMfibGenRouteKey(const unsigned char* p);
 
 /// The table of "MFGKO" (FieldKind.h): its fields in order, then its closing text.
-ORVANE_API extern const LabeledField kMfibGenRouteKeyOptimizedFields[];
+ORVANE_API extern const FieldTable kMfibGenRouteKeyOptimizedFields;
 /// "MFGKO": as "MFGK" with Optimized prefixes.
 ORVANE_API unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Optimized prefix sizes added, in wrapping 32-bit arithmetic.

@@ -6,28 +6,30 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-constexpr LabeledField kRibRouteKeyFields[] = {
-    {"(", &kU32Field}, {", ", &kIpGenPrefixField}, {")"}};
+constexpr LabeledField kRibRouteKeyRows[] = {{"(", &kU32Field}, {", ", &kIpGenPrefixField}, {")"}};
+constexpr FieldTable kRibRouteKeyFields{kRibRouteKeyRows};
 unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kRibRouteKeyFields>(p, os);
+  return formatTable<kRibRouteKeyRows>(p, os);
 }
-unsigned lengthRibRouteKey(const unsigned char* p) { return lengthTable<kRibRouteKeyFields>(p); }
+unsigned lengthRibRouteKey(const unsigned char* p) { return lengthTable<kRibRouteKeyRows>(p); }
 
-constexpr LabeledField kRibRouteKeyOptimizedFields[] = {
+constexpr LabeledField kRibRouteKeyOptimizedRows[] = {
     {"(", &kU32Field}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
+constexpr FieldTable kRibRouteKeyOptimizedFields{kRibRouteKeyOptimizedRows};
 unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatTable<kRibRouteKeyOptimizedFields>(p, os);
+  return formatTable<kRibRouteKeyOptimizedRows>(p, os);
 }
 unsigned lengthRibRouteKeyOptimized(const unsigned char* p) {
-  return lengthTable<kRibRouteKeyOptimizedFields>(p);
+  return lengthTable<kRibRouteKeyOptimizedRows>(p);
 }
 
-constexpr LabeledField kRibViaKeyFields[] = {
+constexpr LabeledField kRibViaKeyRows[] = {
     {"(id:", &kU64Field}, {", vrfId:", &kU32Field}, {", proto:", &kRoutingProtocolField}, {")"}};
+constexpr FieldTable kRibViaKeyFields{kRibViaKeyRows};
 unsigned formatRibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kRibViaKeyFields>(p, os);
+  return formatTable<kRibViaKeyRows>(p, os);
 }
-unsigned lengthRibViaKey(const unsigned char* p) { return lengthTable<kRibViaKeyFields>(p); }
+unsigned lengthRibViaKey(const unsigned char* p) { return lengthTable<kRibViaKeyRows>(p); }
 
 unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
   printName(os, routingProtocolNames, p[0]);
@@ -35,35 +37,39 @@ unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthRoutingProtocol(const unsigned char*) { return 1; }
 
-constexpr LabeledField kAfProtoFields[] = {{"(", &kAfField}, {",", &kRoutingProtocolField}, {")"}};
+constexpr LabeledField kAfProtoRows[] = {{"(", &kAfField}, {",", &kRoutingProtocolField}, {")"}};
+constexpr FieldTable kAfProtoFields{kAfProtoRows};
 unsigned formatAfProto(const unsigned char* p, std::ostream& os) {
-  return formatTable<kAfProtoFields>(p, os);
+  return formatTable<kAfProtoRows>(p, os);
 }
-unsigned lengthAfProto(const unsigned char* p) { return lengthTable<kAfProtoFields>(p); }
+unsigned lengthAfProto(const unsigned char* p) { return lengthTable<kAfProtoRows>(p); }
 
-constexpr LabeledField kAfProtoVrfIdFields[] = {
+constexpr LabeledField kAfProtoVrfIdRows[] = {
     {"(", &kAfField}, {",", &kRoutingProtocolField}, {",", &kU32Field}, {")"}};
+constexpr FieldTable kAfProtoVrfIdFields{kAfProtoVrfIdRows};
 unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os) {
-  return formatTable<kAfProtoVrfIdFields>(p, os);
+  return formatTable<kAfProtoVrfIdRows>(p, os);
 }
-unsigned lengthAfProtoVrfId(const unsigned char* p) { return lengthTable<kAfProtoVrfIdFields>(p); }
+unsigned lengthAfProtoVrfId(const unsigned char* p) { return lengthTable<kAfProtoVrfIdRows>(p); }
 
-constexpr LabeledField kIpGenUcastKeyRefFields[] = {
+constexpr LabeledField kIpGenUcastKeyRefRows[] = {
     {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixField}, {""}};
+constexpr FieldTable kIpGenUcastKeyRefFields{kIpGenUcastKeyRefRows};
 unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIpGenUcastKeyRefFields>(p, os);
+  return formatTable<kIpGenUcastKeyRefRows>(p, os);
 }
 unsigned lengthIpGenUcastKeyRef(const unsigned char* p) {
-  return lengthTable<kIpGenUcastKeyRefFields>(p);
+  return lengthTable<kIpGenUcastKeyRefRows>(p);
 }
 
-constexpr LabeledField kIpGenUcastKeyRefOptimizedFields[] = {
+constexpr LabeledField kIpGenUcastKeyRefOptimizedRows[] = {
     {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixOptimizedField}, {""}};
+constexpr FieldTable kIpGenUcastKeyRefOptimizedFields{kIpGenUcastKeyRefOptimizedRows};
 unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os) {
-  return formatTable<kIpGenUcastKeyRefOptimizedFields>(p, os);
+  return formatTable<kIpGenUcastKeyRefOptimizedRows>(p, os);
 }
 unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p) {
-  return lengthTable<kIpGenUcastKeyRefOptimizedFields>(p);
+  return lengthTable<kIpGenUcastKeyRefOptimizedRows>(p);
 }
 
 } // namespace Orvane

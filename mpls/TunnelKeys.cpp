@@ -18,44 +18,46 @@ unsigned formatTunnelKey(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthTunnelKey(const unsigned char*) { return 20; }
 
-constexpr LabeledField kTunnelKeyGenFields[] = {{"src:", &kIpGenAddrField},
-                                                {", dst:", &kIpGenAddrField},
-                                                {", vrf:", &kU32Field},
-                                                {", genId:", &kU64Field},
-                                                {""}};
+constexpr LabeledField kTunnelKeyGenRows[] = {{"src:", &kIpGenAddrField},
+                                              {", dst:", &kIpGenAddrField},
+                                              {", vrf:", &kU32Field},
+                                              {", genId:", &kU64Field},
+                                              {""}};
+constexpr FieldTable kTunnelKeyGenFields{kTunnelKeyGenRows};
 unsigned formatTunnelKeyGen(const unsigned char* p, std::ostream& os) {
-  return formatTable<kTunnelKeyGenFields>(p, os);
+  return formatTable<kTunnelKeyGenRows>(p, os);
 }
-unsigned lengthTunnelKeyGen(const unsigned char* p) { return lengthTable<kTunnelKeyGenFields>(p); }
+unsigned lengthTunnelKeyGen(const unsigned char* p) { return lengthTable<kTunnelKeyGenRows>(p); }
 
-constexpr LabeledField kTunnelKeyGenOptimizedFields[] = {{"src:", &kIpGenAddrOptField},
-                                                         {", dst:", &kIpGenAddrOptField},
-                                                         {", vrf:", &kU32Field},
-                                                         {", genId:", &kU64Field},
-                                                         {""}};
+constexpr LabeledField kTunnelKeyGenOptimizedRows[] = {{"src:", &kIpGenAddrOptField},
+                                                       {", dst:", &kIpGenAddrOptField},
+                                                       {", vrf:", &kU32Field},
+                                                       {", genId:", &kU64Field},
+                                                       {""}};
+constexpr FieldTable kTunnelKeyGenOptimizedFields{kTunnelKeyGenOptimizedRows};
 unsigned formatTunnelKeyGenOptimized(const unsigned char* p, std::ostream& os) {
-  return formatTable<kTunnelKeyGenOptimizedFields>(p, os);
+  return formatTable<kTunnelKeyGenOptimizedRows>(p, os);
 }
 unsigned lengthTunnelKeyGenOptimized(const unsigned char* p) {
-  return lengthTable<kTunnelKeyGenOptimizedFields>(p);
+  return lengthTable<kTunnelKeyGenOptimizedRows>(p);
 }
 
-constexpr LabeledField kPseudowireKeyFields[] = {
+constexpr LabeledField kPseudowireKeyRows[] = {
     {"", &kU32Field}, {"/", &kStringField}, {"/", &kIpGenAddrField}, {""}};
+constexpr FieldTable kPseudowireKeyFields{kPseudowireKeyRows};
 unsigned formatPseudowireKey(const unsigned char* p, std::ostream& os) {
-  return formatTable<kPseudowireKeyFields>(p, os);
+  return formatTable<kPseudowireKeyRows>(p, os);
 }
-unsigned lengthPseudowireKey(const unsigned char* p) {
-  return lengthTable<kPseudowireKeyFields>(p);
-}
+unsigned lengthPseudowireKey(const unsigned char* p) { return lengthTable<kPseudowireKeyRows>(p); }
 
-constexpr LabeledField kPseudowireKeyOptimizedFields[] = {
+constexpr LabeledField kPseudowireKeyOptimizedRows[] = {
     {"", &kU32Field}, {"/", &kStringField}, {"/", &kIpGenAddrOptField}, {""}};
+constexpr FieldTable kPseudowireKeyOptimizedFields{kPseudowireKeyOptimizedRows};
 unsigned formatPseudowireKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatTable<kPseudowireKeyOptimizedFields>(p, os);
+  return formatTable<kPseudowireKeyOptimizedRows>(p, os);
 }
 unsigned lengthPseudowireKeyOptimized(const unsigned char* p) {
-  return lengthTable<kPseudowireKeyOptimizedFields>(p);
+  return lengthTable<kPseudowireKeyOptimizedRows>(p);
 }
 
 } // namespace Orvane

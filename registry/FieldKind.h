@@ -44,6 +44,13 @@ struct LabeledField {
   const FieldKind* kind = nullptr;
 };
 
+/// A composite's table as the id table (IdTable.h) names it. The rows themselves are a
+/// constant of their file, so that the format and length functions can be unrolled
+/// over them when compiling (Fields.h); this handle is what other files see.
+struct FieldTable {
+  const LabeledField* rows = nullptr;
+};
+
 /// The most fields a FieldLayout holds.
 inline constexpr std::size_t kMaxLayoutFields = 6;
 

@@ -6,10 +6,10 @@
 // formatTable and lengthTable are a table's two functions:
 //
 //   unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
-//     return formatTable<kMacVlanPairFields>(p, os);
+//     return formatTable<kMacVlanPairRows>(p, os);
 //   }
 //   unsigned lengthMacVlanPair(const unsigned char* p) {
-//     return lengthTable<kMacVlanPairFields>(p);
+//     return lengthTable<kMacVlanPairRows>(p);
 //   }
 //
 // Literals under a caller's width, one rule for every table: a label joins the text

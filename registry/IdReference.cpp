@@ -72,7 +72,7 @@ bool describeId(const char* id, std::ostream& os) {
   if (!entry.format) return false;
   os << "### " << entry.id << ": " << entry.title << "\n\n";
   if (entry.fields)
-    describeFields(entry.fields, os);
+    describeFields(entry.fields->rows, os);
   else
     describeSize(entry.size, os);
   os << "\nExample: `" << entry.id << " " << entry.example << "` prints `" << exampleText(entry)
