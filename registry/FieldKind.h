@@ -5,8 +5,9 @@
 // measure it and how the per-id reference names it, so one table gives a key's format
 // function, its length function and its description (Fields.h walks it):
 //
-//   constexpr LabeledField kMacVlanPairFields[] = {
+//   constexpr LabeledField kMacVlanPairRows[] = {
 //       {"[", &kEthField}, {",", &kU16Field}, {"]"}}; // the last entry: the closing text
+//   constexpr FieldTable kMacVlanPairFields{kMacVlanPairRows}; // what kIdTable names
 //
 // A table ends with an entry without a kind, whose label is the text printed after the
 // last field.
