@@ -2,32 +2,35 @@
 // only in the new stream's state that ovfmt formats on (bench/compare_output.py covers
 // that one through two ovfmt builds).
 //
-//   compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]
-//   compare_stream_states --freeze PLUGIN BATCH_FILE... > registry/stream-states.txt
+//   compare_stream_states OLD_PLUGIN NEW_PLUGIN VALUE_FILE [VALUES_PER_ID [SEED]]
+//   compare_stream_states --freeze PLUGIN VALUE_FILE... > tests/vectors/stream-states.digests
 //
 // Loads both plug-ins into this one host process, each with its own functions (they
 // are bound inside each library), and takes each one's formatMap. Every value of
-// DEMO_FILE and VALUES_PER_ID random values of every id (the first 8 bytes small in half
-// of them, so that tags and counts hit their valid ranges) are formatted by both, on a
-// new stream set up in each of the states below, in a zero-guarded buffer as ovfmt
-// places them. Compared: the text, the count returned, and the stream afterwards
-// (flags, width, fill, rdstate).
+// VALUE_FILE (a batch file, or the vector file itself: its digests are ignored) and
+// VALUES_PER_ID random values of every id (the first 8 bytes small in half of them, so
+// that tags and counts hit their valid ranges) are formatted by both, on a new stream set
+// up in each of the states below, in a zero-guarded buffer as ovfmt places them.
+// Compared: the text, the count returned, and the stream afterwards (flags, width, fill,
+// rdstate). With VALUES_PER_ID 0, only the file's values: what a failure of the vectors
+// test means, state by state.
 //
-// --freeze prints what one plug-in does with every value of the batch files in every
-// state, as the vector file the test suite checks (tests/formatters/StreamStatesTest.cpp):
-// examples/demo.txt and registry/stream-state-values.txt.
+// --freeze prints the vector file the test suite checks
+// (tests/formatters/StreamStatesTest.cpp): each value line of the files with the digest
+// of what PLUGIN does with it in every state (stateDigest), comments and blank lines as
+// they are. Freezing the vector file itself refreshes its digests.
 //
 // One difference is expected and counted apart: when the stream buffer refuses text,
 // text that several insertions wrote may now be one insertion, which fails once (bad)
 // where the later ones added failbit. Prints a line per state and exits 1 when anything
 // else differed.
-#include "bench/TraceValues.h"
 #include "decoding/GuardedBuffer.h"
 #include "registry/FormatMap.h"
 #include "tests/support/RandomValues.h"
 #include "tests/support/StreamStates.h"
 
 #include <dlfcn.h>
+#include <fstream>
 #include <functional>
 #include <iomanip>
 #include <iostream>
@@ -83,24 +86,37 @@ void compare(const std::string& id, const std::vector<unsigned char>& bytes, con
               << ")\n";
 }
 
-// Prints a vector line per stream state and value of the batch files, as `plugin` formats
-// them: registry/stream-states.txt, which the test StreamStates.FrozenVectors checks.
+// Calls `line` for every line of the files, in order.
+template <typename PerLine> void forEachLine(const std::vector<std::string>& paths, PerLine line) {
+  for (const std::string& path : paths) {
+    std::ifstream in(path);
+    if (!in) throw std::runtime_error("cannot open " + path);
+    for (std::string text; std::getline(in, text);) line(text);
+  }
+}
+
+// The values of a batch or vector file.
+std::vector<VectorLine> readValues(const std::string& path) {
+  std::vector<VectorLine> values;
+  forEachLine({path}, [&](const std::string& line) {
+    if (auto value = parseVectorLine(line)) values.push_back(std::move(*value));
+  });
+  return values;
+}
+
+// Prints the files with each value line's digest as `plugin` formats it: the vector file
+// tests/vectors/stream-states.digests, which the test StreamStates.FrozenVectors checks.
 int freeze(const std::string& plugin, const std::vector<std::string>& paths) {
   const FormatMap& map = loadFormatMap(plugin);
-  std::vector<bench::TraceValue> demo;
-  for (const std::string& path : paths) {
-    auto values = bench::readTraceValues(path);
-    demo.insert(demo.end(), values.begin(), values.end());
-  }
-  decoding::GuardedBuffer placed;
-  for (const StreamState& state : streamStates())
-    for (const auto& value : demo) {
-      std::copy(value.bytes.begin(), value.bytes.end(), placed.prepare(value.bytes.size()));
-      placed.setSize(value.bytes.size());
-      const Outcome outcome = formatOn(state, map.at(value.id).first, placed.data());
-      std::cout << "[" << state.name << "] " << value.id << " " << hexOf(value.bytes) << "=> "
-                << outcomeLine(outcome) << "\n";
+  forEachLine(paths, [&](const std::string& line) {
+    const auto value = parseVectorLine(line);
+    if (!value) {
+      std::cout << line << "\n";
+      return;
     }
+    std::cout << value->id << " " << hexOf(value->bytes) << "=> "
+              << stateDigest(map.at(value->id).first, value->bytes) << "\n";
+  });
   return 0;
 }
 
@@ -111,15 +127,15 @@ int main(int argc, char** argv) try {
     return freeze(argv[2], std::vector<std::string>(argv + 3, argv + argc));
   if (argc < 4) {
     std::cerr
-        << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]\n"
-           "       compare_stream_states --freeze PLUGIN BATCH_FILE... > "
-           "registry/stream-states.txt\n";
+        << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN VALUE_FILE [VALUES_PER_ID [SEED]]\n"
+           "       compare_stream_states --freeze PLUGIN VALUE_FILE... > "
+           "tests/vectors/stream-states.digests\n";
     return 2;
   }
   const FormatMap& old = loadFormatMap(argv[1]);
   const FormatMap& now = loadFormatMap(argv[2]);
   if (&old == &now) throw std::runtime_error("both paths load the same plug-in");
-  const auto demo = bench::readTraceValues(argv[3]);
+  const auto values = readValues(argv[3]);
   const int perId = argc > 4 ? std::stoi(argv[4]) : 1000;
   const unsigned seed = argc > 5 ? static_cast<unsigned>(std::stoul(argv[5])) : 1;
 
@@ -129,7 +145,7 @@ int main(int argc, char** argv) try {
     for (const auto& [id, oldPair] : old) {
       const auto& newPair = now.at(id);
       std::mt19937 rng(seed + std::hash<std::string>{}(id));
-      for (const auto& value : demo)
+      for (const auto& value : values)
         if (value.id == id) compare(id, value.bytes, oldPair.first, newPair.first, state, tally);
       for (int i = 0; i < perId; ++i)
         compare(id, test::randomValue(rng), oldPair.first, newPair.first, state, tally);

@@ -23,10 +23,9 @@
 // The rule shows where a field prints nothing (an Optimized prefix of tag 0 and length
 // 255) between two labels: under a width, "MFGKO" pads "(" when its first prefix prints
 // and "(, " when it prints nothing, the text pending when the first field text arrives.
-// registry/stream-states.txt freezes what the rule gives for the demo values and
-// registry/stream-state-values.txt in every stream state a caller may leave
-// (bench/compare_stream_states --freeze writes it; StreamStates.FrozenVectors checks it), so that
-// it cannot drift unseen.
+// tests/vectors/stream-states.digests freezes what the rule gives for the demo values and those
+// keys in every stream state a caller may leave (bench/compare_stream_states --freeze
+// writes it; StreamStates.FrozenVectors checks it), so that it cannot drift unseen.
 //
 // Sums are unsigned 32-bit and wrap; a field after an invalid one (0xFFFFFFFF) is read
 // where at() puts it, and the wrapped total is returned unrepaired.

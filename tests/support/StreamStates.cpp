@@ -1,9 +1,16 @@
 #include "tests/support/StreamStates.h"
 
+#include "decoding/GuardedBuffer.h"
+#include "tools/ovfmt/BatchLine.h"
+#include "tools/ovfmt/Hex.h"
+
 #include <algorithm>
+#include <cstdint>
 #include <iomanip>
 #include <locale>
 #include <ostream>
+#include <sstream>
+#include <stdexcept>
 #include <streambuf>
 
 namespace Orvane::test {
@@ -32,6 +39,10 @@ private:
   std::size_t room_;
   std::string text_;
 };
+
+void fnv1a(std::uint64_t& hash, std::string_view text) {
+  for (unsigned char c : text) hash = (hash ^ c) * 0x100000001b3u;
+}
 
 struct Thousands : std::numpunct<char> {
   std::string do_grouping() const override { return "\3"; }
@@ -80,6 +91,36 @@ std::string outcomeLine(const Outcome& outcome) {
   return std::to_string(outcome.count) + " " + std::to_string(unsigned(outcome.flags)) + " " +
          std::to_string(outcome.width) + " " + std::to_string(int(outcome.fill)) + " " +
          std::to_string(unsigned(outcome.state)) + " `" + outcome.text + "`";
+}
+
+std::string stateDigest(const FormatFn& format, const std::vector<unsigned char>& value) {
+  static decoding::GuardedBuffer placed;
+  std::copy(value.begin(), value.end(), placed.prepare(value.size()));
+  placed.setSize(value.size());
+  std::uint64_t hash = 0xcbf29ce484222325u;
+  for (const StreamState& state : streamStates()) {
+    fnv1a(hash, state.name);
+    fnv1a(hash, ": " + outcomeLine(formatOn(state, format, placed.data())) + "\n");
+  }
+  std::ostringstream digest;
+  digest << std::hex << std::setfill('0') << std::setw(16) << hash;
+  return digest.str();
+}
+
+std::optional<VectorLine> parseVectorLine(std::string_view line) {
+  const auto parts = ovfmt::splitBatchLine(line);
+  if (!parts) return std::nullopt;
+  VectorLine vector{std::string(parts->id), {}, {}};
+  std::string_view hex = parts->hex;
+  if (const auto arrow = hex.find("=>"); arrow != std::string_view::npos) {
+    std::istringstream(std::string(hex.substr(arrow + 2))) >> vector.digest;
+    hex = hex.substr(0, arrow);
+  }
+  std::string error;
+  auto bytes = ovfmt::parseHex(hex, error);
+  if (!bytes) throw std::runtime_error(std::string(line) + ": " + error);
+  vector.bytes = std::move(*bytes);
+  return vector;
 }
 
 } // namespace Orvane::test

@@ -1,6 +1,6 @@
-// Streams in the states a caller may hand a formatter, and what formatting leaves behind:
-// shared by the stream-state vectors test and bench/compare_stream_states, which froze
-// them.
+// Streams in the states a caller may hand a formatter, what formatting leaves behind, and
+// the digest of it that the stream-state vectors freeze: shared by the vectors test and
+// bench/compare_stream_states, which freezes them and shows what changed.
 #pragma once
 
 #include "registry/Formatter.h"
@@ -8,7 +8,9 @@
 #include <cstddef>
 #include <functional>
 #include <ios>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Orvane::test {
@@ -41,5 +43,22 @@ Outcome formatOn(const StreamState& state, const FormatFn& format, const unsigne
 
 /// "COUNT FLAGS WIDTH FILL STATE `TEXT`", the numbers in decimal: a vector line's result.
 std::string outcomeLine(const Outcome& outcome);
+
+/// The 64-bit FNV-1a digest, as 16 hex digits, of "STATE: OUTCOME_LINE\n" for every state
+/// of streamStates() in turn, `value` formatted with `format` between zero guards as ovfmt
+/// places values: one line of the vector file covers everything the value does.
+std::string stateDigest(const FormatFn& format, const std::vector<unsigned char>& value);
+
+/// A value line of the vector file ("ID HEX... => DIGEST") or of a batch file ("ID HEX...",
+/// the digest left empty).
+struct VectorLine {
+  std::string id;
+  std::vector<unsigned char> bytes;
+  std::string digest;
+};
+
+/// Parses `line`. Returns nullopt for a blank line or a '#' comment; throws
+/// std::runtime_error for bad hex.
+std::optional<VectorLine> parseVectorLine(std::string_view line);
 
 } // namespace Orvane::test
