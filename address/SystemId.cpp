@@ -6,14 +6,10 @@
 
 namespace Orvane {
 
-namespace {
-
 unsigned appendIsisSystemId(const unsigned char* p, TextRun& text) {
   printHexGroups(text, p, 6, 2, '.');
   return lengthIsisSystemId(p);
 }
-
-} // namespace
 
 unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
   return formatThroughRun<appendIsisSystemId>(p, os);

@@ -10,6 +10,8 @@ namespace Orvane {
 
 /// "IS": 6 raw bytes as 0100.0000.0001 (lowercase hex). Returns 6.
 ORVANE_API unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os);
+/// The append form (TextRun.h) of formatIsisSystemId.
+unsigned appendIsisSystemId(const unsigned char* p, TextRun& text);
 ORVANE_API unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
 
 /// The table of "DSFID" (FieldKind.h): its fields in order, then its closing text.

@@ -54,28 +54,30 @@ std::ostream& formatMplsLabel(unsigned int label, std::ostream& os) {
   return text.flush();
 }
 
-unsigned formatMplsLabel(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendMplsLabel(const unsigned char* p, TextRun& text) {
   text << "MplsLabel(";
   printMplsLabel(load<uint32_t>(p), text);
   text << ")";
-  text.flush();
   return lengthMplsLabel(p);
+}
+unsigned formatMplsLabel(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMplsLabel>(p, os);
 }
 unsigned lengthMplsLabel(const unsigned char*) { return 4; }
 
-unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os) {
+unsigned appendMplsLabelOperation(const unsigned char* p, TextRun& text) {
   const unsigned count = p[1];
   if (count > kMaxStackLabels) return kInvalidLength;
   const char* operation = labelOperationName(p[0]);
   if (!operation) return kInvalidLength;
-  TextRun text(os);
   text << operation << "[";
   for (unsigned i = 0; i < count; ++i)
     printMplsLabel(load<uint32_t>(p + 2 + 4 * i), i ? text << ", " : text);
   text << "]";
-  text.flush();
   return lengthMplsLabelOperation(p);
+}
+unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMplsLabelOperation>(p, os);
 }
 unsigned lengthMplsLabelOperation(const unsigned char* p) {
   const unsigned count = p[1];
@@ -91,16 +93,17 @@ unsigned formatEvpnLabel(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthEvpnLabel(const unsigned char*) { return 4; }
 
-unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os) {
+unsigned appendMplsRouterId(const unsigned char* p, TextRun& text) {
   if (p[0] == kSystemIdRouterKind) {
-    formatIsisSystemId(p + 1, os);
+    appendIsisSystemId(p + 1, text);
   } else {
-    TextRun text(os);
     printIpv4Bytes(text, p + 1);
     text.join(":").number(static_cast<unsigned>(p[5] << 8 | p[6]));
-    text.flush();
   }
   return lengthMplsRouterId(p);
+}
+unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMplsRouterId>(p, os);
 }
 unsigned lengthMplsRouterId(const unsigned char*) { return 7; }
 

@@ -45,6 +45,11 @@ unsigned appendEvpnLabel(const unsigned char* p, TextRun& text);
 ORVANE_API unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthMplsRouterId(const unsigned char* p); ///< 7
 
+/// The append forms (TextRun.h) of "ML", "LO" and "MRTR".
+unsigned appendMplsLabel(const unsigned char* p, TextRun& text);
+unsigned appendMplsLabelOperation(const unsigned char* p, TextRun& text);
+unsigned appendMplsRouterId(const unsigned char* p, TextRun& text);
+
 /// "GFID": u64 fecId, u16 tableId. Prints "fecId: " fecId ", tableId: " and then the low
 /// 16 bits of the fecId, not the stored tableId: that is the established output and is
 /// kept. Returns 10.

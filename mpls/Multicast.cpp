@@ -45,15 +45,16 @@ unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
   return lengthTable<kMRouteKeyOptimizedRows>(p);
 }
 
-unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
-  // mRouteFlags may be replaced by anyone holding the exported symbol, so it is read
-  // afresh at every step rather than cached.
-  TextRun text(os);
+// mRouteFlags may be replaced by anyone holding the exported symbol, so it is read
+// afresh at every step rather than cached.
+unsigned appendMRouteFlags(const unsigned char* p, TextRun& text) {
   for (unsigned i = 0; i < std::strlen(mRouteFlags); ++i)
     if (p[i]) text << std::string_view(&mRouteFlags[i], 1);
   if (!p[kFlagW] && !p[kFlagS]) text << "E";
-  text.flush();
   return lengthMRouteFlags(p);
+}
+unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMRouteFlags>(p, os);
 }
 unsigned lengthMRouteFlags(const unsigned char*) {
   return static_cast<unsigned>(std::strlen(mRouteFlags));

@@ -50,6 +50,8 @@ ORVANE_API unsigned lengthMRouteKeyOptimized(const unsigned char* p);
 ORVANE_API unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os);
 /// The length of the string mRouteFlags points at (13 initially).
 ORVANE_API unsigned lengthMRouteFlags(const unsigned char* p);
+/// The append form (TextRun.h) of "MF".
+unsigned appendMRouteFlags(const unsigned char* p, TextRun& text);
 
 /// "MIJ": u32 join state: 0 "noInfo", 1 "prunePending", any other "joined". Returns 4.
 ORVANE_API unsigned formatMRouteIntfJoinState(const unsigned char* p, std::ostream& os);

@@ -6,15 +6,17 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-unsigned formatTunnelKey(const unsigned char* p, std::ostream& os) {
-  // The one key of the family whose fields sit at fixed offsets, whatever the host's
-  // integer widths, and whose size is a constant.
-  TextRun text(os);
+// The one key of the family whose fields sit at fixed offsets, whatever the host's
+// integer widths, and whose size is a constant. Its numbers are the host's to print.
+unsigned appendTunnelKey(const unsigned char* p, TextRun& text) {
   appendIp(p, text.join("src:"));
   appendIp(p + 4, text.join(", dst:"));
   formatU32(p + 8, text.join(", vrf:").flush());
   formatU64(p + 12, text.join(", genId:").flush());
   return lengthTunnelKey(p);
+}
+unsigned formatTunnelKey(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendTunnelKey>(p, os);
 }
 unsigned lengthTunnelKey(const unsigned char*) { return 20; }
 

@@ -17,6 +17,8 @@ namespace Orvane {
 ORVANE_API unsigned formatTunnelKey(const unsigned char* p, std::ostream& os);
 /// 20.
 ORVANE_API unsigned lengthTunnelKey(const unsigned char* p);
+/// The append form (TextRun.h) of "TK".
+unsigned appendTunnelKey(const unsigned char* p, TextRun& text);
 
 /// The table of "TKG" (FieldKind.h): its fields in order, then its closing text.
 ORVANE_API extern const FieldTable kTunnelKeyGenFields;
