@@ -18,34 +18,37 @@ std::ostream& formatAfi(unsigned short afi, std::ostream& os) { return os << afi
 std::ostream& formatSafi(unsigned short safi, std::ostream& os) { return os << safiName(safi); }
 
 std::ostream& formatAfiSafi(AfiSafi afiSafi, std::ostream& os) {
-  TextRun text(os);
-  printAfiSafi(afiSafi, text);
-  return text.flush();
+  return printThroughRun(os, [afiSafi](TextRun& text) { printAfiSafi(afiSafi, text); });
 }
 
-unsigned formatAfi(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendAfi(const unsigned char* p, TextRun& text) {
   text << "<AFI:" << afiName(load<uint16_t>(p)) << ">";
-  text.flush();
   return lengthAfi(p);
+}
+unsigned formatAfi(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendAfi>(p, os);
 }
 unsigned lengthAfi(const unsigned char*) { return 2; }
 
-unsigned formatSafiLegacy(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendSafiLegacy(const unsigned char* p, TextRun& text) {
   text << "<SAFI:" << safiName(p[0]) << ">";
-  text.flush();
   return lengthSafi(p);
+}
+unsigned formatSafiLegacy(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendSafiLegacy>(p, os);
 }
 unsigned lengthSafi(const unsigned char*) { return 1; }
 
 // The encoded word crosses the in-memory pair: its low half is the SAFI.
-unsigned formatAfiSafi(const unsigned char* p, std::ostream& os) {
+unsigned appendAfiSafi(const unsigned char* p, TextRun& text) {
   const uint32_t word = load<uint32_t>(p);
-  formatAfiSafi(AfiSafi{static_cast<unsigned short>(word >> 16),
-                        static_cast<unsigned short>(word & 0xFFFF)},
-                os);
+  printAfiSafi(
+      AfiSafi{static_cast<unsigned short>(word >> 16), static_cast<unsigned short>(word & 0xFFFF)},
+      text);
   return lengthAfiSafi(p);
+}
+unsigned formatAfiSafi(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendAfiSafi>(p, os);
 }
 unsigned lengthAfiSafi(const unsigned char*) { return 4; }
 

@@ -116,4 +116,9 @@ ORVANE_API unsigned lengthSafi(const unsigned char* p); ///< 1
 ORVANE_API unsigned formatAfiSafi(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthAfiSafi(const unsigned char* p); ///< 4
 
+/// The append forms (TextRun.h) of "AFI", "SAFI" and "AFS".
+unsigned appendAfi(const unsigned char* p, TextRun& text);
+unsigned appendSafiLegacy(const unsigned char* p, TextRun& text);
+unsigned appendAfiSafi(const unsigned char* p, TextRun& text);
+
 } // namespace Orvane

@@ -13,9 +13,7 @@ void printNlriType(NlriType type, TextRun& text) {
 } // namespace
 
 std::ostream& formatNlriType(NlriType type, std::ostream& os) {
-  TextRun text(os);
-  printNlriType(type, text);
-  return text.flush();
+  return printThroughRun(os, [type](TextRun& text) { printNlriType(type, text); });
 }
 
 AfiSafi bgpRouteKeyParseNlriType(unsigned char type) {
@@ -23,15 +21,17 @@ AfiSafi bgpRouteKeyParseNlriType(unsigned char type) {
   return it != nlriTypeToAfiSafi.end() ? it->second : AfiSafi{0, 0};
 }
 
-unsigned formatNlriType(const unsigned char* p, std::ostream& os) {
-  formatNlriType(static_cast<NlriType>(p[0]), os);
+unsigned appendNlriType(const unsigned char* p, TextRun& text) {
+  printNlriType(static_cast<NlriType>(p[0]), text);
   return lengthNlriType(p);
+}
+unsigned formatNlriType(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendNlriType>(p, os);
 }
 unsigned lengthNlriType(const unsigned char*) { return 1; }
 
-unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os) {
+unsigned appendNlriType2AfiSafi(const unsigned char* p, TextRun& text) {
   const NlriType type = static_cast<NlriType>(p[0]);
-  TextRun text(os);
   if (auto it = nlriTypeToAfiSafi.find(type); it != nlriTypeToAfiSafi.end()) {
     printNlriType(type, text);
     printAfiSafi(it->second, text);
@@ -40,8 +40,10 @@ unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os) {
     text.number(type);
     text << "><AfiSafi:unknown>";
   }
-  text.flush();
   return lengthNlriType2AfiSafi(p);
+}
+unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendNlriType2AfiSafi>(p, os);
 }
 unsigned lengthNlriType2AfiSafi(const unsigned char*) { return 1; }
 

@@ -261,4 +261,8 @@ ORVANE_API unsigned lengthNlriType(const unsigned char* p); ///< 1
 ORVANE_API unsigned formatNlriType2AfiSafi(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthNlriType2AfiSafi(const unsigned char* p); ///< 1
 
+/// The append forms (TextRun.h) of "NLRI" and "NLRI2AFISAFI".
+unsigned appendNlriType(const unsigned char* p, TextRun& text);
+unsigned appendNlriType2AfiSafi(const unsigned char* p, TextRun& text);
+
 } // namespace Orvane

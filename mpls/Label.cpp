@@ -49,9 +49,7 @@ void printMplsLabel(unsigned label, TextRun& text) {
 } // namespace
 
 std::ostream& formatMplsLabel(unsigned int label, std::ostream& os) {
-  TextRun text(os);
-  printMplsLabel(label, text);
-  return text.flush();
+  return printThroughRun(os, [label](TextRun& text) { printMplsLabel(label, text); });
 }
 
 unsigned appendMplsLabel(const unsigned char* p, TextRun& text) {

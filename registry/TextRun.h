@@ -129,6 +129,14 @@ private:
   char text_[kCapacity];
 };
 
+/// The stream form of a printer that gathers its text into a TextRun: `print(text)` on a
+/// run of its own over `os`, inserted before returning `os`.
+template <class Print> std::ostream& printThroughRun(std::ostream& os, Print print) {
+  TextRun text(os);
+  print(text);
+  return text.flush();
+}
+
 /// A formatter's append form: adds the text of the value at `p` to `text` (through
 /// join() and number(), so that it prints as the format form would) and returns the
 /// value's size, as the format form does.
