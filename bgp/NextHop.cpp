@@ -127,9 +127,7 @@ const char* vrfKindName(unsigned char kind) {
 } // namespace
 
 std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
-  printBgpVrfId(p, text);
-  return text.flush();
+  return printThroughRun(os, [p](TextRun& text) { printBgpVrfId(p, text); });
 }
 
 void printBgpVrfId(const unsigned char* p, TextRun& text) {
@@ -137,14 +135,15 @@ void printBgpVrfId(const unsigned char* p, TextRun& text) {
   text.number(load<uint32_t>(p + 1));
 }
 
-unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendBgpGenNextHop(const unsigned char* p, TextRun& text) {
   const unsigned count = printFields(nextHopLayout(p).fields, p, kBodyOffset, text);
   text << " (";
   printBgpVrfId(p, text);
   text << ")";
-  text.flush();
   return count;
+}
+unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendBgpGenNextHop>(p, os);
 }
 
 unsigned lengthBgpGenNextHop(const unsigned char* p) {

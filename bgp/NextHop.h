@@ -31,5 +31,7 @@ ORVANE_API unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os
 /// u16, u32 and string, the Opt generic address of types 28 and 29, and the 8-or-4-byte
 /// layer-2 attributes) are measured at their offsets.
 ORVANE_API unsigned lengthBgpGenNextHop(const unsigned char* p);
+/// The append form (TextRun.h) of "BNH".
+unsigned appendBgpGenNextHop(const unsigned char* p, TextRun& text);
 
 } // namespace Orvane

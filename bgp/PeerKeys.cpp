@@ -50,26 +50,29 @@ unsigned lengthBgpPeerKey(const unsigned char* p) {
   return measureFields(peerKeyLayout(p).fields, p, kPeerBodyOffset);
 }
 
-unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+// The peer's name is the host's to print.
+unsigned appendBmpRouteKey(const unsigned char* p, TextRun& text) {
   printRouteKeyFrameOpening(bmpAfi(p), bmpSafi(p), text);
   const unsigned keyOffset = kBmpNameOffset + formatString(p + kBmpNameOffset, text.flush());
   text << "; ";
-  const unsigned key = formatBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, text);
+  const unsigned key = appendBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, text);
   text << ")> ";
-  text.flush();
   return keyOffset + key;
+}
+unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendBmpRouteKey>(p, os);
 }
 unsigned lengthBmpRouteKey(const unsigned char* p) {
   const unsigned keyOffset = kBmpNameOffset + lengthString(p + kBmpNameOffset);
   return keyOffset + lengthBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset);
 }
 
-unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendAdjRibinType(const unsigned char* p, TextRun& text) {
   text << "<AdjRibin:" << nameOr(adjRibinTypeNames, p[0], "unknown") << ">";
-  text.flush();
   return lengthAdjRibinType(p);
+}
+unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendAdjRibinType>(p, os);
 }
 unsigned lengthAdjRibinType(const unsigned char*) { return 1; }
 

@@ -9,6 +9,7 @@
 
 #include "registry/Export.h"
 #include "registry/NameTable.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 #include <utility>
@@ -52,5 +53,9 @@ ORVANE_API unsigned lengthBmpRouteKey(const unsigned char* p);
 /// "RIBINT": "<AdjRibin:" the name of the code at p[0], or "unknown", ">". Returns 1.
 ORVANE_API unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthAdjRibinType(const unsigned char* p); ///< 1
+
+/// The append forms (TextRun.h) of "BMPRK" and "RIBINT".
+unsigned appendBmpRouteKey(const unsigned char* p, TextRun& text);
+unsigned appendAdjRibinType(const unsigned char* p, TextRun& text);
 
 } // namespace Orvane

@@ -91,15 +91,11 @@ void printRouteTarget(unsigned long long rt, TextRun& text) {
 }
 
 void formatRouteDistinguisher(unsigned long long rd, std::ostream& os) {
-  TextRun text(os);
-  printRouteDistinguisher(rd, text);
-  text.flush();
+  printThroughRun(os, [rd](TextRun& text) { printRouteDistinguisher(rd, text); });
 }
 
 void formatRouteTarget(unsigned long long rt, std::ostream& os) {
-  TextRun text(os);
-  printRouteTarget(rt, text);
-  text.flush();
+  printThroughRun(os, [rt](TextRun& text) { printRouteTarget(rt, text); });
 }
 
 unsigned appendRouteDistinguisher(const unsigned char* p, TextRun& text) {

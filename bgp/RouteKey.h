@@ -24,7 +24,7 @@ ORVANE_API unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi,
                                       const unsigned char* key, std::ostream& os);
 /// formatBgpRouteKey() within a longer text: the key's labels join the text pending in
 /// `text`, and its closing text is left pending there (see printFields).
-unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
+unsigned appendBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            TextRun& text);
 
 } // namespace Orvane

@@ -33,6 +33,7 @@
 #include <cstring>
 #include <ostream>
 #include <string_view>
+#include <type_traits>
 
 namespace Orvane {
 
@@ -130,11 +131,18 @@ private:
 };
 
 /// The stream form of a printer that gathers its text into a TextRun: `print(text)` on a
-/// run of its own over `os`, inserted before returning `os`.
-template <class Print> std::ostream& printThroughRun(std::ostream& os, Print print) {
+/// run of its own over `os`, inserted before returning. Returns what `print` returns (a
+/// count), or `os` when it returns nothing.
+template <class Print> decltype(auto) printThroughRun(std::ostream& os, Print print) {
   TextRun text(os);
-  print(text);
-  return text.flush();
+  if constexpr (std::is_void_v<std::invoke_result_t<Print&, TextRun&>>) {
+    print(text);
+    return text.flush();
+  } else {
+    auto result = print(text);
+    text.flush();
+    return result;
+  }
 }
 
 /// A formatter's append form: adds the text of the value at `p` to `text` (through
@@ -145,10 +153,7 @@ using AppendPtr = unsigned (*)(const unsigned char* p, TextRun& text);
 /// The format form of an append function: the value's text on a run of its own,
 /// inserted before returning.
 template <AppendPtr Append> unsigned formatThroughRun(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
-  const unsigned count = Append(p, text);
-  text.flush();
-  return count;
+  return printThroughRun(os, [p](TextRun& text) { return Append(p, text); });
 }
 
 } // namespace Orvane
