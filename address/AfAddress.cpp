@@ -30,21 +30,15 @@ void copyPresent(const unsigned char* p, unsigned n, unsigned offset, unsigned m
 void printInet(const unsigned char* p, unsigned n, std::ostream& os) {
   unsigned char address[4] = {};
   copyPresent(p, n, 4, 4, address);
-  TextRun text(os);
-  printIpv4Bytes(text, address);
-  text.flush();
+  printThroughRun(os, [&](TextRun& text) { printIpv4Bytes(text, address); });
 }
 
 void printInet6(const unsigned char* p, unsigned n, bool zoned, std::ostream& os) {
   unsigned char address[16] = {};
   copyPresent(p, n, 8, 16, address);
-  TextRun text(os);
-  printIpv6Bytes(text, address);
-  if (!zoned) {
-    text.flush();
-    return;
-  }
-  text.flush() << "%";
+  printThroughRun(os, [&](TextRun& text) { printIpv6Bytes(text, address); });
+  if (!zoned) return;
+  os << "%";
   if (n <= 24) {
     os << std::hex << loadBigEndian32(p + 10) << std::dec;
   } else {
@@ -71,12 +65,12 @@ void printDataBytes(const unsigned char* data, int count, std::ostream& os) {
 
 void printLabelled(const unsigned char* p, unsigned n, bool inet6, std::ostream& os) {
   os << loadBigEndian32(p + n - 4) << "|" << loadBigEndian32(p + n - 8) << "|";
-  TextRun text(os);
-  if (inet6)
-    printIpv6Bytes(text, p + 4);
-  else
-    printIpv4Bytes(text, p + 4);
-  text.flush();
+  printThroughRun(os, [&](TextRun& text) {
+    if (inet6)
+      printIpv6Bytes(text, p + 4);
+    else
+      printIpv4Bytes(text, p + 4);
+  });
 }
 
 } // namespace

@@ -32,15 +32,16 @@ constexpr LabeledField kEntryAddresses[] = {
 constexpr LabeledField kEntryNumbers[] = {{"", &kU8Field}, {"][", &kU32Field}, {""}};
 constexpr LabeledField kEntryExtension[] = {{"][", &kU32Field}, {"][", &kU32Field}, {""}};
 
-unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendArpInputConfigEntry(const unsigned char* p, TextRun& text) {
   unsigned off = printFields(kEntryAddresses, p, 0, text);
   const bool extended = at(p, off)[0] == kExtendedEntry;
   off = printFields(kEntryNumbers, p, off, text);
   if (extended) off = printFields(kEntryExtension, p, off, text);
   text << "]";
-  text.flush();
   return off;
+}
+unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendArpInputConfigEntry>(p, os);
 }
 unsigned lengthArpInputConfigEntry(const unsigned char* p) {
   unsigned off = measureFields(kEntryAddresses, p);

@@ -22,6 +22,8 @@ ORVANE_API unsigned lengthArpInputConfigKey(const unsigned char* p);
 ORVANE_API unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os);
 /// The key, 6, lengthU8 and lengthU32, plus two lengthU32 when the flag byte is 1.
 ORVANE_API unsigned lengthArpInputConfigEntry(const unsigned char* p);
+/// The append form (TextRun.h) of "ARPICE".
+unsigned appendArpInputConfigEntry(const unsigned char* p, TextRun& text);
 
 /// The table of "ARPIPK" (FieldKind.h): its fields in order, then its closing text.
 ORVANE_API extern const FieldTable kArpInputPriorityKeyFields;
