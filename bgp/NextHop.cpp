@@ -126,6 +126,12 @@ const char* vrfKindName(unsigned char kind) {
 
 } // namespace
 
+constexpr FieldVariants kBgpGenNextHopVariants{
+    "the next-hop type (byte 5), the body starting at byte 6 (types above 32 print NULL "
+    "as type 0 does)",
+    std::size(kNextHopLayouts),
+    [](unsigned type) -> const LabeledField* { return kNextHopLayouts[type].fields; }};
+
 std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os) {
   return printThroughRun(os, [p](TextRun& text) { printBgpVrfId(p, text); });
 }

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -21,6 +22,8 @@ ORVANE_API std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::o
 /// the text pending in `text`, and so does the number where TextRun::number() allows.
 void printBgpVrfId(const unsigned char* p, TextRun& text);
 
+/// The bodies of "BNH" by next-hop type, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kBgpGenNextHopVariants;
 /// "BNH": the body of the next-hop type at p[5], then " (" VRF ")". Type 0 and types
 /// above 32 print "NULL" as their body. Layer-2 attributes follow the field before
 /// them without a separator of ours (they print their own). Returns 6 plus the counts

@@ -43,6 +43,11 @@ unsigned short bmpSafi(const unsigned char* p) { return p[2]; }
 
 } // namespace
 
+constexpr FieldVariants kBgpPeerKeyVariants{
+    "the peer-key type (byte 0), the body starting at byte 1 (types above 7 print nothing)",
+    std::size(kPeerKeyLayouts),
+    [](unsigned type) -> const LabeledField* { return kPeerKeyLayouts[type].fields; }};
+
 unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os) {
   return formatFields(peerKeyLayout(p).fields, p, os, kPeerBodyOffset);
 }

@@ -10,11 +10,15 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
 
 namespace Orvane {
+
+/// The route key layouts by family (RouteKeyLayout.cpp), for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kBgpRouteKeyVariants;
 
 /// Prints the route key at `key` of (afi, safi) and returns lengthBgpRouteKey for the
 /// same bytes. A combination without a layout prints nothing and returns 0xFFFFFFFF.

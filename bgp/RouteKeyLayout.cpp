@@ -2,7 +2,9 @@
 
 #include "address/GenericPrefix.h"
 #include "address/HexGroups.h"
+#include "bgp/AfiSafi.h"
 #include "bgp/RouteDistinguisher.h"
+#include "bgp/RouteKey.h"
 
 #include <array>
 #include <cstddef>
@@ -253,7 +255,23 @@ bool matches(const RouteKeyLayout& layout, unsigned short safi, const unsigned c
          (layout.letter == kNoLetter || layout.letter == key[0]);
 }
 
+// "ipv4/mplsVpn", "l2vpn/evpn, letter M", "ipv6/any other SAFI".
+void writeLayoutName(unsigned row, std::ostream& os) {
+  const RouteKeyLayout& layout = kRouteKeyLayouts[row];
+  os << afiName(layout.afi) << "/"
+     << (layout.safi == kAnySafi ? "any other SAFI" : safiName(layout.safi));
+  if (layout.letter != kNoLetter) os << ", letter " << layout.letter;
+}
+
 } // namespace
+
+constexpr FieldVariants kBgpRouteKeyVariants{
+    "the AFI and SAFI and, in the families that have one, the route-type letter in the "
+    "key's first byte (the fields follow it); the first row that matches is the layout, "
+    "and a combination without one prints no key",
+    std::size(kRouteKeyLayouts),
+    [](unsigned row) -> const LabeledField* { return kRouteKeyLayouts[row].fields.fields; },
+    writeLayoutName};
 
 const RouteKeyLayout* findRouteKeyLayout(unsigned short afi, unsigned short safi,
                                          const unsigned char* key) {

@@ -24,8 +24,6 @@ static_assert(std::size(kVertexSizes) == std::size(kVertexBodies));
 
 bool isValidVertex(unsigned char type) { return type < std::size(kVertexSizes); }
 
-enum ClientPathKind : unsigned char { kPathKey = 0, kP2mpPathKey = 1 };
-
 } // namespace
 
 unsigned formatCspfVertex(const unsigned char* p, std::ostream& os) {
@@ -51,20 +49,20 @@ constexpr FieldKind kP2mpPathKeyField{formatCspfP2mpPathKey, lengthCspfP2mpPathK
                                       "CSPF P2MP path key", 4};
 constexpr LabeledField kPathKeyFields[] = {{"pathKey=<", &kPathKeyField}, {">"}};
 constexpr LabeledField kP2mpPathKeyFields[] = {{"p2mpPathKey=<", &kP2mpPathKeyField}, {">"}};
+// Indexed by the kind byte.
+constexpr const LabeledField* kClientPathBodies[] = {kPathKeyFields, kP2mpPathKeyFields};
+
+constexpr FieldVariants kCspfClientPathKeyVariants{
+    "the kind (byte 0), the body starting at byte 1 (any other kind is invalid)",
+    std::size(kClientPathBodies), [](unsigned kind) { return kClientPathBodies[kind]; }};
 
 unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os) {
-  switch (p[0]) {
-  case kPathKey: return formatFields(kPathKeyFields, p, os, 1);
-  case kP2mpPathKey: return formatFields(kP2mpPathKeyFields, p, os, 1);
-  default: return kInvalidLength;
-  }
+  if (p[0] >= std::size(kClientPathBodies)) return kInvalidLength;
+  return formatFields(kClientPathBodies[p[0]], p, os, 1);
 }
 unsigned lengthCspfClientPathKey(const unsigned char* p) {
-  switch (p[0]) {
-  case kPathKey: return measureFields(kPathKeyFields, p, 1);
-  case kP2mpPathKey: return measureFields(kP2mpPathKeyFields, p, 1);
-  default: return kInvalidLength;
-  }
+  if (p[0] >= std::size(kClientPathBodies)) return kInvalidLength;
+  return measureFields(kClientPathBodies[p[0]], p, 1);
 }
 
 constexpr LabeledField kCspfP2mpPathKeyRows[] = {{"id=", &kU32FixedField}, {""}};

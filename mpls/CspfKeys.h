@@ -38,6 +38,8 @@ ORVANE_API unsigned lengthCspfPathKey(const unsigned char* p);
 /// prints "p2mpPathKey=<" and a "CP2MPK" key and ">"; the kind byte counts 1 more.
 /// Any other kind prints nothing and returns 0xFFFFFFFF.
 ORVANE_API unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os);
+/// The bodies of "CCPK" by kind, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kCspfClientPathKeyVariants;
 /// Kind 0: 5 + the vertex size at byte 1 (4 after an invalid vertex, wrapped); kind 1:
 /// 5; any other kind: 0xFFFFFFFF.
 ORVANE_API unsigned lengthCspfClientPathKey(const unsigned char* p);

@@ -35,6 +35,13 @@ const LabeledField* fecBody(const unsigned char* p, const LabeledField* const (&
 
 } // namespace
 
+constexpr FieldVariants kMplsFwdEqvClassVariants{
+    "the FEC type (byte 0), the body starting at byte 1 (any other type is invalid)",
+    std::size(kFecBodies), [](unsigned type) { return kFecBodies[type]; }};
+constexpr FieldVariants kMplsFwdEqvClassOptimizedVariants{
+    "the FEC type (byte 0), the body starting at byte 1 (any other type is invalid)",
+    std::size(kFecBodiesOptimized), [](unsigned type) { return kFecBodiesOptimized[type]; }};
+
 unsigned formatMplsFwdEqvClass(const unsigned char* p, std::ostream& os) {
   const LabeledField* body = fecBody(p, kFecBodies);
   return body ? formatFields(body, p, os, 1) : kInvalidLength;

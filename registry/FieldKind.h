@@ -52,6 +52,20 @@ struct FieldTable {
   const LabeledField* rows = nullptr;
 };
 
+/// A composite whose body depends on a code in the value, for the per-id reference: the
+/// body of each variant is read from the same array the format and length functions
+/// index, so the reference lists what they print.
+struct FieldVariants {
+  /// What picks the body and what the value holds around it.
+  std::string_view code;
+  /// The variants, indexed from 0.
+  unsigned count = 0;
+  /// The body of variant `index`, a table as the walk takes it; nullptr when it has none.
+  const LabeledField* (*body)(unsigned index) = nullptr;
+  /// Writes the variant's name, e.g. "Type 5"; nullptr names variant i "Code i".
+  void (*name)(unsigned index, std::ostream& os) = nullptr;
+};
+
 /// The most fields a FieldLayout holds.
 inline constexpr std::size_t kMaxLayoutFields = 6;
 

@@ -19,6 +19,7 @@
 #include "bgp/NlriType.h"
 #include "bgp/PeerKeys.h"
 #include "bgp/RouteDistinguisher.h"
+#include "bgp/RouteKey.h"
 #include "bgp/RouteKeyWrappers.h"
 #include "keys/ArpKeys.h"
 #include "keys/BindingKeys.h"
@@ -58,6 +59,9 @@ struct IdEntry {
   /// A value in hex, pairs of digits separated by blanks, exactly as long as the length
   /// function says; the reference prints the text formatting it gives.
   std::string_view example = "";
+  /// For a composite whose body depends on a code: its variants' bodies (FieldKind.h),
+  /// listed after `size`.
+  const FieldVariants* variants = nullptr;
 };
 
 /// Every id, one block per family (kIdFamilies) and sorted by id within it. The order
@@ -122,12 +126,12 @@ inline constexpr IdEntry kIdTable[] = {
      "8 when bit 0 of the u32 is set, else 4", "0b 02 02 00 ea 05 00 00"},
     {"FM", formatMplsFwdEqvClass, lengthMplsFwdEqvClass, "MPLS FEC", nullptr,
      "1 + the body its type byte names (types 0-3); invalid for any other type",
-     "01 e9 03 00 00 01 00 00 0a"},
+     "01 e9 03 00 00 01 00 00 0a", &kMplsFwdEqvClassVariants},
     {"FMO", formatMplsFwdEqvClassOptimized, lengthMplsFwdEqvClassOptimized,
      "MPLS FEC, optimized addresses", nullptr,
      "1 + the body its type byte names, with Optimized and Opt addresses (types 0-3); invalid for "
      "any other type",
-     "00 01 20 0a 00 00 01"},
+     "00 01 20 0a 00 00 01", &kMplsFwdEqvClassOptimizedVariants},
     {"GFID", formatGlobalFecId, lengthGlobalFecId,
      "global FEC id (tableId shows the fecId's low 16 bits)", nullptr, "10",
      "2a 00 00 00 00 00 00 00 00 00"},
@@ -161,7 +165,7 @@ inline constexpr IdEntry kIdTable[] = {
     {"CCPK", formatCspfClientPathKey, lengthCspfClientPathKey, "CSPF client path key", nullptr,
      "1 + the body its kind byte names (kind 0: a path key, 1: a P2MP path key); invalid for any "
      "other kind",
-     "01 2a 00 00 00"},
+     "01 2a 00 00 00", &kCspfClientPathKeyVariants},
     {"CP2MPK", formatCspfP2mpPathKey, lengthCspfP2mpPathKey, "CSPF P2MP path key",
      &kCspfP2mpPathKeyFields, "", "03 00 00 00"},
     {"CPK", formatCspfPathKey, lengthCspfPathKey, "CSPF path key (vertex, id)", &kCspfPathKeyFields,
@@ -234,20 +238,22 @@ inline constexpr IdEntry kIdTable[] = {
     {"BMPRK", formatBmpRouteKey, lengthBmpRouteKey,
      "BMP route key: AFI, SAFI, peer name, route key", nullptr,
      "3 + the peer name string + the route key of the AFI and SAFI",
-     "01 00 80 03 70 65 31 64 00 00 00 e8 fd 00 00 00 00 01 0a 10"},
+     "01 00 80 03 70 65 31 64 00 00 00 e8 fd 00 00 00 00 01 0a 10", &kBgpRouteKeyVariants},
     {"BNH", formatBgpGenNextHop, lengthBgpGenNextHop, "BGP next hop (VRF, type, body by type)",
      nullptr, "6 + the body its next-hop type byte (at 5) names",
-     "01 02 00 00 00 03 01 00 00 0a 00 1c 73 aa bb cc"},
+     "01 02 00 00 00 03 01 00 00 0a 00 1c 73 aa bb cc", &kBgpGenNextHopVariants},
     {"BPK", formatBgpPeerKey, lengthBgpPeerKey, "BGP peer key", nullptr,
-     "1 + the body its type byte names", "05 01 01 00 00 0a 03 65 74 31"},
+     "1 + the body its type byte names", "05 01 01 00 00 0a 03 65 74 31", &kBgpPeerKeyVariants},
     {"BRK", formatBgpRouteKeyOld, lengthBgpRouteKeyOld,
      "BGP route key with AFI, SAFI, NLRI type and VRF", nullptr,
-     "9 + the route key of the AFI and SAFI", "01 00 01 01 01 01 00 00 00 00 00 a8 c0 18"},
+     "9 + the route key of the AFI and SAFI", "01 00 01 01 01 01 00 00 00 00 00 a8 c0 18",
+     &kBgpRouteKeyVariants},
     {"BRY", formatBgpRouteKeyNew, lengthBgpRouteKeyNew,
      "BGP route key with NLRI type and VRF (route keys: docs/route-keys.md)", nullptr,
      "6 + the route key of the NLRI type's AFI and SAFI",
      "04 00 0a 00 00 00 6d 64 00 00 00 e8 fd 00 00 00 00 00 00 00 00 00 00 00 1c 73 aa bb cc 01 01 "
-     "00 00 0a"},
+     "00 00 0a",
+     &kBgpRouteKeyVariants},
     {"RIBINT", formatAdjRibinType, lengthAdjRibinType, "adj-RIB-in entry type", nullptr, "1", "07"},
     {"ARPICE", formatArpInputConfigEntry, lengthArpInputConfigEntry,
      "ARP input configuration entry", nullptr,
