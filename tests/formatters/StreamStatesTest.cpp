@@ -27,7 +27,7 @@ TEST(StreamStates, FrozenVectors) {
   ASSERT_TRUE(in.is_open());
   int number = 0, values = 0;
   for (std::string line; std::getline(in, line);) {
-    SCOPED_TRACE(kVectors + (":" + std::to_string(++number)));
+    SCOPED_TRACE(std::string(kVectors) + ":" + std::to_string(++number));
     const auto vector = parseVectorLine(line);
     if (!vector) continue;
     ASSERT_FALSE(vector->digest.empty()) << "a value line without its digest: " << line;
