@@ -21,6 +21,7 @@
 #include "bgp/AfiSafi.h"
 #include "bgp/EvpnL2Attrs.h"
 #include "bgp/NextHop.h"
+#include "bgp/NlriType.h"
 #include "bgp/PeerKeys.h"
 #include "bgp/RouteDistinguisher.h"
 #include "bgp/RouteKeyWrappers.h"

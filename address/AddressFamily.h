@@ -2,6 +2,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -23,5 +24,8 @@ extern const NameTable addressFamilyNames;
 ORVANE_API unsigned formatAf(const unsigned char* p, std::ostream& os);
 /// 1.
 ORVANE_API unsigned lengthAf(const unsigned char* p);
+
+/// As a field of composite keys.
+inline constexpr FieldKind kAfField{formatAf, lengthAf, nullptr, "address family code", 1};
 
 } // namespace Orvane

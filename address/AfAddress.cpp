@@ -1,8 +1,8 @@
 #include "address/AfAddress.h"
 
+#include "address/HexGroups.h"
 #include "address/Ip.h"
 #include "registry/Bytes.h"
-#include "registry/HexDigits.h"
 
 #include <algorithm>
 #include <cstring>
@@ -30,13 +30,13 @@ void copyPresent(const unsigned char* p, unsigned n, unsigned offset, unsigned m
 void printInet(const unsigned char* p, unsigned n, std::ostream& os) {
   unsigned char address[4] = {};
   copyPresent(p, n, 4, 4, address);
-  printIpv4Bytes(os, address);
+  printThroughRun(os, [&](TextRun& text) { printIpv4Bytes(text, address); });
 }
 
 void printInet6(const unsigned char* p, unsigned n, bool zoned, std::ostream& os) {
   unsigned char address[16] = {};
   copyPresent(p, n, 8, 16, address);
-  printIpv6Bytes(os, address);
+  printThroughRun(os, [&](TextRun& text) { printIpv6Bytes(text, address); });
   if (!zoned) return;
   os << "%";
   if (n <= 24) {
@@ -52,15 +52,11 @@ void printInet6(const unsigned char* p, unsigned n, bool zoned, std::ostream& os
 // the stream, it leaves the fill at '0' and the base decimal.
 void printDataBytes(const unsigned char* data, int count, std::ostream& os) {
   char text[5 * 128]; // at most 253 bytes: "xxxx." per pair, "-xx" for the last
-  char* out = text;
-  int i = 0;
-  for (; i + 1 < count; i += 2) {
-    if (i) *out++ = '.';
-    out = writeHexByte(data[i + 1], writeHexByte(data[i], out));
-  }
-  if (i < count) {
+  const int pairs = count & ~1;
+  char* out = writeHexGroups(data, pairs, 2, '.', text);
+  if (pairs < count) {
     *out++ = '-';
-    out = writeHexByte(data[i], out);
+    out = writeHexByte(data[pairs], out);
   }
   os.write(text, out - text);
   os.fill('0');
@@ -69,10 +65,12 @@ void printDataBytes(const unsigned char* data, int count, std::ostream& os) {
 
 void printLabelled(const unsigned char* p, unsigned n, bool inet6, std::ostream& os) {
   os << loadBigEndian32(p + n - 4) << "|" << loadBigEndian32(p + n - 8) << "|";
-  if (inet6)
-    printIpv6Bytes(os, p + 4);
-  else
-    printIpv4Bytes(os, p + 4);
+  printThroughRun(os, [&](TextRun& text) {
+    if (inet6)
+      printIpv6Bytes(text, p + 4);
+    else
+      printIpv4Bytes(text, p + 4);
+  });
 }
 
 } // namespace

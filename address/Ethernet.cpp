@@ -4,41 +4,42 @@
 #include "registry/Fields.h"
 
 namespace Orvane {
-namespace {
-
-// Out is std::ostream or TextRun: the format and the append form.
-template <class Out> unsigned printEth(const unsigned char* p, Out& out) {
-  printHexGroups(out, p, 6, 2, '.');
+unsigned appendEth(const unsigned char* p, TextRun& text) {
+  printHexGroups(text, p, 6, 2, '.');
   return lengthEth(p);
 }
+unsigned formatEth(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendEth>(p, os);
+}
+unsigned lengthEth(const unsigned char*) { return 6; }
 
-template <class Out> unsigned printEthSegment(const unsigned char* p, Out& out) {
-  printHexGroups(out, p, 10, 2, ':');
-  return lengthEthSegment(p);
+namespace {
+
+unsigned appendEthColonSeparated(const unsigned char* p, TextRun& text) {
+  printHexGroups(text, p, 6, 1, ':');
+  return lengthEthColonSeparated(p);
 }
 
 } // namespace
 
-unsigned formatEth(const unsigned char* p, std::ostream& os) { return printEth(p, os); }
-unsigned appendEth(const unsigned char* p, TextRun& text) { return printEth(p, text); }
-unsigned lengthEth(const unsigned char*) { return 6; }
-
 unsigned formatEthColonSeparated(const unsigned char* p, std::ostream& os) {
-  printHexGroups(os, p, 6, 1, ':');
-  return lengthEthColonSeparated(p);
+  return formatThroughRun<appendEthColonSeparated>(p, os);
 }
 unsigned lengthEthColonSeparated(const unsigned char*) { return 6; }
 
+constexpr LabeledField kEthMaskRows[] = {{"", &kEthField}, {"/", &kEthField}, {""}};
+constexpr FieldTable kEthMaskFields{kEthMaskRows};
 unsigned formatEthMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendEth, "/", appendEth);
+  return formatTable<kEthMaskRows>(p, os);
 }
-unsigned lengthEthMask(const unsigned char* p) { return measureFields(p, lengthEth, lengthEth); }
+unsigned lengthEthMask(const unsigned char* p) { return lengthTable<kEthMaskRows>(p); }
 
-unsigned formatEthSegment(const unsigned char* p, std::ostream& os) {
-  return printEthSegment(p, os);
-}
 unsigned appendEthSegment(const unsigned char* p, TextRun& text) {
-  return printEthSegment(p, text);
+  printHexGroups(text, p, 10, 2, ':');
+  return lengthEthSegment(p);
+}
+unsigned formatEthSegment(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendEthSegment>(p, os);
 }
 unsigned lengthEthSegment(const unsigned char*) { return 10; }
 

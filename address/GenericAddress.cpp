@@ -7,43 +7,35 @@
 namespace Orvane {
 namespace {
 
-// The IPv4 slot, a native-order u32, printed as "I" prints it.
-void printIpv4Slot(const unsigned char* v4, std::ostream& os) { formatIp(v4, os); }
-void printIpv4Slot(const unsigned char* v4, TextRun& text) { appendIp(v4, text); }
-
-// Prints the address whose IPv4 slot is at `v4` and IPv6 slot at `v6` by `tag`.
-// Out is std::ostream or TextRun (printField).
-template <class Out>
-void printTagged(Out& out, unsigned char tag, const unsigned char* v4, const unsigned char* v6) {
+// The address whose IPv4 slot (a native-order u32, printed as "I" prints it) is at `v4`
+// and IPv6 slot at `v6`, by `tag`.
+void printTagged(TextRun& text, unsigned char tag, const unsigned char* v4,
+                 const unsigned char* v6) {
   if (tag == kFamilyIpv4)
-    printIpv4Slot(v4, out);
+    appendIp(v4, text);
   else if (tag == kFamilyIpv6)
-    printIpv6Bytes(out, v6);
+    printIpv6Bytes(text, v6);
   else
-    printField(out, "unknown");
-}
-
-template <class Out> unsigned printIpGenAddr(const unsigned char* p, Out& out) {
-  printTagged(out, p[0], p + 1, p + 5);
-  return lengthIpGenAddr(p);
-}
-
-template <class Out> unsigned printIpGenAddrOpt(const unsigned char* p, Out& out) {
-  printTagged(out, p[0], p + 1, p + 1);
-  return lengthIpGenAddrOpt(p);
+    text.join("unknown");
 }
 
 } // namespace
 
-unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os) { return printIpGenAddr(p, os); }
-unsigned appendIpGenAddr(const unsigned char* p, TextRun& text) { return printIpGenAddr(p, text); }
+unsigned appendIpGenAddr(const unsigned char* p, TextRun& text) {
+  printTagged(text, p[0], p + 1, p + 5);
+  return lengthIpGenAddr(p);
+}
+unsigned formatIpGenAddr(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIpGenAddr>(p, os);
+}
 unsigned lengthIpGenAddr(const unsigned char*) { return 21; }
 
-unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os) {
-  return printIpGenAddrOpt(p, os);
-}
 unsigned appendIpGenAddrOpt(const unsigned char* p, TextRun& text) {
-  return printIpGenAddrOpt(p, text);
+  printTagged(text, p[0], p + 1, p + 1);
+  return lengthIpGenAddrOpt(p);
+}
+unsigned formatIpGenAddrOpt(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIpGenAddrOpt>(p, os);
 }
 unsigned lengthIpGenAddrOpt(const unsigned char* p) {
   switch (p[0]) {
@@ -53,18 +45,24 @@ unsigned lengthIpGenAddrOpt(const unsigned char* p) {
   }
 }
 
+constexpr LabeledField kIpGenAddrWithFullMaskRows[] = {
+    {"", &kIpGenAddrField}, {"/", &kIpGenAddrField}, {""}};
+constexpr FieldTable kIpGenAddrWithFullMaskFields{kIpGenAddrWithFullMaskRows};
 unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendIpGenAddr, "/", appendIpGenAddr);
+  return formatTable<kIpGenAddrWithFullMaskRows>(p, os);
 }
 unsigned lengthIpGenAddrWithFullMask(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddr, lengthIpGenAddr);
+  return lengthTable<kIpGenAddrWithFullMaskRows>(p);
 }
 
+constexpr LabeledField kIpGenAddrOptWithFullMaskRows[] = {
+    {"", &kIpGenAddrOptField}, {"/", &kIpGenAddrOptField}, {""}};
+constexpr FieldTable kIpGenAddrOptWithFullMaskFields{kIpGenAddrOptWithFullMaskRows};
 unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendIpGenAddrOpt, "/", appendIpGenAddrOpt);
+  return formatTable<kIpGenAddrOptWithFullMaskRows>(p, os);
 }
 unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddrOpt, lengthIpGenAddrOpt);
+  return lengthTable<kIpGenAddrOptWithFullMaskRows>(p);
 }
 
 } // namespace Orvane

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -25,13 +26,24 @@ ORVANE_API unsigned lengthIpGenAddrOpt(const unsigned char* p); ///< 5, 17 or 1 
 unsigned appendIpGenAddr(const unsigned char* p, TextRun& text);
 unsigned appendIpGenAddrOpt(const unsigned char* p, TextRun& text);
 
+/// The table of "IGM" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kIpGenAddrWithFullMaskFields;
 /// "IGM": address "/" mask, both generic addresses, e.g. 10.1.0.0/255.255.0.0. Returns 42.
 ORVANE_API unsigned formatIpGenAddrWithFullMask(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIpGenAddrWithFullMask(const unsigned char* p); ///< 42
 
+/// The table of "IGMO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kIpGenAddrOptWithFullMaskFields;
 /// "IGMO": as "IGM" over two Opt addresses, the mask starting where the address ends.
 ORVANE_API unsigned formatIpGenAddrOptWithFullMask(const unsigned char* p, std::ostream& os);
 /// The two Opt lengths added.
 ORVANE_API unsigned lengthIpGenAddrWithFullMaskOpt(const unsigned char* p);
+
+// As fields of composite keys.
+inline constexpr FieldKind kIpGenAddrField{formatIpGenAddr, lengthIpGenAddr, appendIpGenAddr,
+                                           "generic address (tag, IPv4 slot, IPv6 slot)", 21};
+inline constexpr FieldKind kIpGenAddrOptField{
+    formatIpGenAddrOpt,     lengthIpGenAddrOpt, appendIpGenAddrOpt, "generic address, Opt form", 0,
+    "5, 17 or 1 by its tag"};
 
 } // namespace Orvane

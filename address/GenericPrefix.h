@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -28,5 +29,16 @@ ORVANE_API unsigned lengthIpGenPrefixOptimized(const unsigned char* p);
 /// The append forms (TextRun.h) of formatIpGenPrefix and formatIpGenPrefixOptimized.
 unsigned appendIpGenPrefix(const unsigned char* p, TextRun& text);
 unsigned appendIpGenPrefixOptimized(const unsigned char* p, TextRun& text);
+
+// As fields of composite keys.
+inline constexpr FieldKind kIpGenPrefixField{formatIpGenPrefix, lengthIpGenPrefix,
+                                             appendIpGenPrefix, "generic prefix", 18};
+inline constexpr FieldKind kIpGenPrefixOptimizedField{
+    formatIpGenPrefixOptimized,
+    lengthIpGenPrefixOptimized,
+    appendIpGenPrefixOptimized,
+    "generic prefix, Optimized form",
+    0,
+    "2 + the address bytes its length byte needs"};
 
 } // namespace Orvane

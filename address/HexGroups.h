@@ -22,14 +22,12 @@ inline char* writeHexGroups(const unsigned char* bytes, int count, int groupByte
   return out;
 }
 
-/// Prints the text of writeHexGroups() for at most 16 bytes as one field (printField):
-/// one insertion on a stream, so a width the caller set pads it whole.
-template <class Out>
-void printHexGroups(Out& out, const unsigned char* bytes, int count, int groupBytes,
-                    char separator) {
-  char text[48];
-  printField(out,
-             std::string_view(text, writeHexGroups(bytes, count, groupBytes, separator, text)));
+/// Joins (TextRun::join) the text of writeHexGroups() for at most 16 bytes to `text`:
+/// one piece, so a width the caller set pads it whole.
+inline void printHexGroups(TextRun& text, const unsigned char* bytes, int count, int groupBytes,
+                           char separator) {
+  char buffer[48];
+  text.join(std::string_view(buffer, writeHexGroups(bytes, count, groupBytes, separator, buffer)));
 }
 
 } // namespace Orvane

@@ -19,34 +19,16 @@ std::string_view converted(const char* text, const char* end) {
 // Network-order bytes of a native-order u32 IPv4 address.
 uint32_t networkOrder(const unsigned char* p) { return __builtin_bswap32(load<uint32_t>(p)); }
 
-// Out is std::ostream or TextRun (printField).
-template <class Out> void printIpv4(Out& out, const unsigned char* bytes) {
-  char text[kIpv4TextSize];
-  printField(out, converted(text, ipv4Text(bytes, text, sizeof text)));
-}
-
-template <class Out> void printIpv6(Out& out, const unsigned char* bytes) {
-  char text[kIpv6TextSize];
-  printField(out, converted(text, ipv6Text(bytes, text, sizeof text)));
-}
-
-template <class Out> unsigned printIp(const unsigned char* p, Out& out) {
-  const uint32_t address = networkOrder(p);
-  printIpv4(out, reinterpret_cast<const unsigned char*>(&address));
-  return lengthIp(p);
-}
-
-template <class Out> unsigned printIp6(const unsigned char* p, Out& out) {
-  printIpv6(out, p);
-  return lengthIp6Addr(p);
-}
-
 } // namespace
 
-void printIpv4Bytes(std::ostream& os, const unsigned char* bytes) { printIpv4(os, bytes); }
-void printIpv6Bytes(std::ostream& os, const unsigned char* bytes) { printIpv6(os, bytes); }
-void printIpv4Bytes(TextRun& text, const unsigned char* bytes) { printIpv4(text, bytes); }
-void printIpv6Bytes(TextRun& text, const unsigned char* bytes) { printIpv6(text, bytes); }
+void printIpv4Bytes(TextRun& text, const unsigned char* bytes) {
+  char buffer[kIpv4TextSize];
+  text.join(converted(buffer, ipv4Text(bytes, buffer, sizeof buffer)));
+}
+void printIpv6Bytes(TextRun& text, const unsigned char* bytes) {
+  char buffer[kIpv6TextSize];
+  text.join(converted(buffer, ipv6Text(bytes, buffer, sizeof buffer)));
+}
 
 char* formatIpAddr(const unsigned char* p, char* buf, unsigned len) {
   const uint32_t address = networkOrder(p);
@@ -55,12 +37,23 @@ char* formatIpAddr(const unsigned char* p, char* buf, unsigned len) {
   return buf;
 }
 
-unsigned formatIp(const unsigned char* p, std::ostream& os) { return printIp(p, os); }
-unsigned appendIp(const unsigned char* p, TextRun& text) { return printIp(p, text); }
+unsigned appendIp(const unsigned char* p, TextRun& text) {
+  const uint32_t address = networkOrder(p);
+  printIpv4Bytes(text, reinterpret_cast<const unsigned char*>(&address));
+  return lengthIp(p);
+}
+unsigned formatIp(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIp>(p, os);
+}
 unsigned lengthIp(const unsigned char*) { return 4; }
 
-unsigned formatIp6Addr(const unsigned char* p, std::ostream& os) { return printIp6(p, os); }
-unsigned appendIp6Addr(const unsigned char* p, TextRun& text) { return printIp6(p, text); }
+unsigned appendIp6Addr(const unsigned char* p, TextRun& text) {
+  printIpv6Bytes(text, p);
+  return lengthIp6Addr(p);
+}
+unsigned formatIp6Addr(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIp6Addr>(p, os);
+}
 unsigned lengthIp6Addr(const unsigned char*) { return 16; }
 
 unsigned appendIpPrefix(const unsigned char* p, TextRun& text) {

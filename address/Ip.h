@@ -7,18 +7,17 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
 
 namespace Orvane {
 
-/// Writes four raw network-order bytes as a dotted IPv4 address, or "unknown".
-void printIpv4Bytes(std::ostream& os, const unsigned char* bytes);
-/// Writes 16 raw network-order bytes as an IPv6 address, or "unknown".
-void printIpv6Bytes(std::ostream& os, const unsigned char* bytes);
-/// printIpv4Bytes() and printIpv6Bytes() as fields of a longer text (TextRun::join).
+/// Joins (TextRun::join) four raw network-order bytes as a dotted IPv4 address, or
+/// "unknown", to `text`.
 void printIpv4Bytes(TextRun& text, const unsigned char* bytes);
+/// Joins 16 raw network-order bytes as an IPv6 address, or "unknown", to `text`.
 void printIpv6Bytes(TextRun& text, const unsigned char* bytes);
 
 /// The append forms (TextRun.h) of formatIp, formatIp6Addr, formatIpPrefix,
@@ -53,5 +52,14 @@ ORVANE_API unsigned lengthIp6Prefix(const unsigned char* p); ///< 17
 /// "IP": IPv4 address, ":" and the native u16 port, e.g. 10.0.0.1:179. Returns 6.
 ORVANE_API unsigned formatIpAndPort(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthIpAndPort(const unsigned char* p); ///< 6
+
+// As fields of composite keys.
+inline constexpr FieldKind kIpField{formatIp, lengthIp, appendIp, "IPv4 address (native u32)", 4};
+inline constexpr FieldKind kIp6Field{formatIp6Addr, lengthIp6Addr, appendIp6Addr, "IPv6 address",
+                                     16};
+inline constexpr FieldKind kIpPrefixField{formatIpPrefix, lengthIpPrefix, appendIpPrefix,
+                                          "IPv4 prefix (address, length byte)", 5};
+inline constexpr FieldKind kIpAndPortField{formatIpAndPort, lengthIpAndPort, appendIpAndPort,
+                                           "IPv4 address and u16 port", 6};
 
 } // namespace Orvane

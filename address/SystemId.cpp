@@ -6,17 +6,22 @@
 
 namespace Orvane {
 
-unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
-  printHexGroups(os, p, 6, 2, '.');
+unsigned appendIsisSystemId(const unsigned char* p, TextRun& text) {
+  printHexGroups(text, p, 6, 2, '.');
   return lengthIsisSystemId(p);
+}
+
+unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendIsisSystemId>(p, os);
 }
 unsigned lengthIsisSystemId(const unsigned char*) { return 6; }
 
+constexpr LabeledField kDsfSystemIdRows[] = {
+    {"SystemId(", &kU8Field}, {", ", &kU16Field}, {", ", &kStringField}, {")"}};
+constexpr FieldTable kDsfSystemIdFields{kDsfSystemIdRows};
 unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "SystemId(", formatU8, ", ", formatU16, ", ", formatString, ")");
+  return formatTable<kDsfSystemIdRows>(p, os);
 }
-unsigned lengthDsfSystemId(const unsigned char* p) {
-  return measureFields(p, lengthU8, lengthU16, lengthString);
-}
+unsigned lengthDsfSystemId(const unsigned char* p) { return lengthTable<kDsfSystemIdRows>(p); }
 
 } // namespace Orvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
@@ -9,8 +10,12 @@ namespace Orvane {
 
 /// "IS": 6 raw bytes as 0100.0000.0001 (lowercase hex). Returns 6.
 ORVANE_API unsigned formatIsisSystemId(const unsigned char* p, std::ostream& os);
+/// The append form (TextRun.h) of formatIsisSystemId.
+unsigned appendIsisSystemId(const unsigned char* p, TextRun& text);
 ORVANE_API unsigned lengthIsisSystemId(const unsigned char* p); ///< 6
 
+/// The table of "DSFID" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kDsfSystemIdFields;
 /// "DSFID": "SystemId(" u8 ", " u16 ", " string ")" through the host's base formatters.
 /// Returns the three fields' counts added.
 ORVANE_API unsigned formatDsfSystemId(const unsigned char* p, std::ostream& os);

@@ -2,26 +2,35 @@
 // only in the new stream's state that ovfmt formats on (bench/compare_output.py covers
 // that one through two ovfmt builds).
 //
-//   compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]
+//   compare_stream_states OLD_PLUGIN NEW_PLUGIN VALUE_FILE [VALUES_PER_ID [SEED]]
+//   compare_stream_states --freeze PLUGIN VALUE_FILE... > tests/vectors/stream-states.digests
 //
 // Loads both plug-ins into this one host process, each with its own functions (they
 // are bound inside each library), and takes each one's formatMap. Every value of
-// DEMO_FILE and VALUES_PER_ID random values of every id (the first 8 bytes small in half
-// of them, so that tags and counts hit their valid ranges) are formatted by both, on a
-// new stream set up in each of the states below, in a zero-guarded buffer as ovfmt
-// places them. Compared: the text, the count returned, and the stream afterwards
-// (flags, width, fill, rdstate).
+// VALUE_FILE (a batch file, or the vector file itself: its digests are ignored) and
+// VALUES_PER_ID random values of every id (the first 8 bytes small in half of them, so
+// that tags and counts hit their valid ranges) are formatted by both, on a new stream set
+// up in each of the states below, in a zero-guarded buffer as ovfmt places them.
+// Compared: the text, the count returned, and the stream afterwards (flags, width, fill,
+// rdstate). With VALUES_PER_ID 0, only the file's values: what a failure of the vectors
+// test means, state by state.
+//
+// --freeze prints the vector file the test suite checks
+// (tests/formatters/StreamStatesTest.cpp): each value line of the files with the digest
+// of what PLUGIN does with it in every state (stateDigest), comments and blank lines as
+// they are. Freezing the vector file itself refreshes its digests.
 //
 // One difference is expected and counted apart: when the stream buffer refuses text,
 // text that several insertions wrote may now be one insertion, which fails once (bad)
 // where the later ones added failbit. Prints a line per state and exits 1 when anything
 // else differed.
-#include "bench/TraceValues.h"
 #include "decoding/GuardedBuffer.h"
 #include "registry/FormatMap.h"
 #include "tests/support/RandomValues.h"
+#include "tests/support/StreamStates.h"
 
 #include <dlfcn.h>
+#include <fstream>
 #include <functional>
 #include <iomanip>
 #include <iostream>
@@ -32,6 +41,7 @@
 namespace {
 
 using namespace Orvane;
+using namespace Orvane::test;
 using FormatMap = decltype(formatMap);
 
 const FormatMap& loadFormatMap(const std::string& path) {
@@ -41,89 +51,6 @@ const FormatMap& loadFormatMap(const std::string& path) {
   void* map = dlsym(handle, "_ZN6Orvane9formatMapB5cxx11E");
   if (!map) throw std::runtime_error(path + " has no formatMap");
   return *static_cast<const FormatMap*>(map);
-}
-
-// Takes at most `room` characters, then refuses: a full or broken device (npos: all).
-class LimitedBuffer : public std::streambuf {
-public:
-  explicit LimitedBuffer(std::size_t room) : room_(room) {}
-  const std::string& text() const { return text_; }
-
-protected:
-  int_type overflow(int_type c) override {
-    if (traits_type::eq_int_type(c, traits_type::eof()) || text_.size() >= room_)
-      return traits_type::eof();
-    text_ += traits_type::to_char_type(c);
-    return c;
-  }
-  std::streamsize xsputn(const char* s, std::streamsize n) override {
-    const auto taken = std::min(static_cast<std::size_t>(n), room_ - text_.size());
-    text_.append(s, taken);
-    return static_cast<std::streamsize>(taken);
-  }
-
-private:
-  std::size_t room_;
-  std::string text_;
-};
-
-struct Thousands : std::numpunct<char> {
-  std::string do_grouping() const override { return "\3"; }
-  char do_thousands_sep() const override { return '\''; }
-};
-
-struct StreamState {
-  const char* name;
-  std::function<void(std::ostream&)> setUp;
-  std::size_t room = std::string::npos; ///< what the stream buffer takes (npos: all)
-};
-
-std::vector<StreamState> streamStates() {
-  const std::locale grouping(std::locale::classic(), new Thousands);
-  return {
-      {"new stream", [](std::ostream&) {}},
-      {"width 40", [](std::ostream& os) { os << std::setw(40); }},
-      {"width 40, left, fill *",
-       [](std::ostream& os) { os << std::left << std::setfill('*') << std::setw(40); }},
-      {"width 40, internal", [](std::ostream& os) { os << std::internal << std::setw(40); }},
-      {"width 3", [](std::ostream& os) { os << std::setw(3); }},
-      {"width -5", [](std::ostream& os) { os.width(-5); }},
-      {"hex", [](std::ostream& os) { os << std::hex; }},
-      {"hex, showbase, uppercase",
-       [](std::ostream& os) { os << std::hex << std::showbase << std::uppercase; }},
-      {"oct, width 12, fill 0",
-       [](std::ostream& os) { os << std::oct << std::setfill('0') << std::setw(12); }},
-      {"showpos", [](std::ostream& os) { os << std::showpos; }},
-      {"showbase", [](std::ostream& os) { os << std::showbase; }},
-      {"grouping locale", [grouping](std::ostream& os) { os.imbue(grouping); }},
-      {"grouping locale, width 30",
-       [grouping](std::ostream& os) { os.imbue(grouping), os.width(30); }},
-      {"failbit", [](std::ostream& os) { os.setstate(std::ios::failbit); }},
-      {"badbit, width 9", [](std::ostream& os) { os.setstate(std::ios::badbit), os.width(9); }},
-      {"buffer takes 0", [](std::ostream&) {}, 0},
-      {"buffer takes 7", [](std::ostream&) {}, 7},
-      {"buffer takes 20, width 25", [](std::ostream& os) { os.width(25); }, 20},
-  };
-}
-
-// What formatting one value left behind.
-struct Outcome {
-  std::string text;
-  unsigned count;
-  std::ios::fmtflags flags;
-  std::streamsize width;
-  char fill;
-  std::ios::iostate state;
-
-  bool operator==(const Outcome&) const = default;
-};
-
-Outcome format(const FormatFn& fn, const unsigned char* value, const StreamState& state) {
-  LimitedBuffer buffer(state.room);
-  std::ostream os(&buffer);
-  state.setUp(os);
-  const unsigned count = fn(value, os);
-  return {buffer.text(), count, os.flags(), os.width(), os.fill(), os.rdstate()};
 }
 
 std::string hexOf(const std::vector<unsigned char>& bytes) {
@@ -143,8 +70,8 @@ void compare(const std::string& id, const std::vector<unsigned char>& bytes, con
   static decoding::GuardedBuffer placed;
   std::copy(bytes.begin(), bytes.end(), placed.prepare(bytes.size()));
   placed.setSize(bytes.size());
-  const Outcome before = format(old, placed.data(), state),
-                after = format(now, placed.data(), state);
+  const Outcome before = formatOn(state, old, placed.data()),
+                after = formatOn(state, now, placed.data());
   ++tally.compared;
   if (before == after) return;
   Outcome withoutFailbit = before;
@@ -159,18 +86,56 @@ void compare(const std::string& id, const std::vector<unsigned char>& bytes, con
               << ")\n";
 }
 
+// Calls `line` for every line of the files, in order.
+template <typename PerLine> void forEachLine(const std::vector<std::string>& paths, PerLine line) {
+  for (const std::string& path : paths) {
+    std::ifstream in(path);
+    if (!in) throw std::runtime_error("cannot open " + path);
+    for (std::string text; std::getline(in, text);) line(text);
+  }
+}
+
+// The values of a batch or vector file.
+std::vector<VectorLine> readValues(const std::string& path) {
+  std::vector<VectorLine> values;
+  forEachLine({path}, [&](const std::string& line) {
+    if (auto value = parseVectorLine(line)) values.push_back(std::move(*value));
+  });
+  return values;
+}
+
+// Prints the files with each value line's digest as `plugin` formats it: the vector file
+// tests/vectors/stream-states.digests, which the test StreamStates.FrozenVectors checks.
+int freeze(const std::string& plugin, const std::vector<std::string>& paths) {
+  const FormatMap& map = loadFormatMap(plugin);
+  forEachLine(paths, [&](const std::string& line) {
+    const auto value = parseVectorLine(line);
+    if (!value) {
+      std::cout << line << "\n";
+      return;
+    }
+    std::cout << value->id << " " << hexOf(value->bytes) << "=> "
+              << stateDigest(map.at(value->id).first, value->bytes) << "\n";
+  });
+  return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) try {
+  if (argc >= 4 && std::string(argv[1]) == "--freeze")
+    return freeze(argv[2], std::vector<std::string>(argv + 3, argv + argc));
   if (argc < 4) {
     std::cerr
-        << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN DEMO_FILE [VALUES_PER_ID [SEED]]\n";
+        << "usage: compare_stream_states OLD_PLUGIN NEW_PLUGIN VALUE_FILE [VALUES_PER_ID [SEED]]\n"
+           "       compare_stream_states --freeze PLUGIN VALUE_FILE... > "
+           "tests/vectors/stream-states.digests\n";
     return 2;
   }
   const FormatMap& old = loadFormatMap(argv[1]);
   const FormatMap& now = loadFormatMap(argv[2]);
   if (&old == &now) throw std::runtime_error("both paths load the same plug-in");
-  const auto demo = bench::readTraceValues(argv[3]);
+  const auto values = readValues(argv[3]);
   const int perId = argc > 4 ? std::stoi(argv[4]) : 1000;
   const unsigned seed = argc > 5 ? static_cast<unsigned>(std::stoul(argv[5])) : 1;
 
@@ -180,7 +145,7 @@ int main(int argc, char** argv) try {
     for (const auto& [id, oldPair] : old) {
       const auto& newPair = now.at(id);
       std::mt19937 rng(seed + std::hash<std::string>{}(id));
-      for (const auto& value : demo)
+      for (const auto& value : values)
         if (value.id == id) compare(id, value.bytes, oldPair.first, newPair.first, state, tally);
       for (int i = 0; i < perId; ++i)
         compare(id, test::randomValue(rng), oldPair.first, newPair.first, state, tally);

@@ -56,12 +56,10 @@ unsigned lengthEvpnL2Attrs(const unsigned char* p) {
   return load<uint32_t>(p) & kPresentBit ? 8 : 4;
 }
 
-unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
-                           const NameTable& fxcModeNames,
+unsigned appendEvpnL2Attrs(const unsigned char* p, TextRun& text, const NameTable& fxcModeNames,
                            const NameTable& vlanNormalizationNames, bool printF) {
   const uint32_t flags = load<uint32_t>(p);
   if (!(flags & kPresentBit)) return 4;
-  TextRun text(os);
   text << ", evpnL2Attrs:" << flagLetter(flags, 3, "B", "b") << flagLetter(flags, 2, "P", "p")
        << flagLetter(flags, 1, "C", "c");
   if (printF) text << flagLetter(flags, 4, "F", "f");
@@ -69,8 +67,13 @@ unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
   printCode(text, vlanNormalizationNames, (flags >> 16) & 0xFF, "VlanNormalization");
   text << ";mtu=";
   text.number(load<uint32_t>(p + 4));
-  text.flush();
   return 8;
+}
+unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os, const NameTable& fxcModeNames,
+                           const NameTable& vlanNormalizationNames, bool printF) {
+  return printThroughRun(os, [&](TextRun& text) {
+    return appendEvpnL2Attrs(p, text, fxcModeNames, vlanNormalizationNames, printF);
+  });
 }
 
 // Each version owns its tables, built on its first call.

@@ -10,6 +10,7 @@
 
 #include "registry/Export.h"
 #include "registry/NameTable.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 
@@ -27,6 +28,9 @@ ORVANE_API unsigned lengthEvpnL2Attrs(const unsigned char* p);
 ORVANE_API unsigned formatEvpnL2Attrs(const unsigned char* p, std::ostream& os,
                                       const NameTable& fxcModeNames,
                                       const NameTable& vlanNormalizationNames, bool printF);
+/// The append form (TextRun.h) of formatEvpnL2Attrs.
+unsigned appendEvpnL2Attrs(const unsigned char* p, TextRun& text, const NameTable& fxcModeNames,
+                           const NameTable& vlanNormalizationNames, bool printF);
 
 /// "EL2old": version 1 tables (1 fxcVlanUnaware, 2 fxcVlanAware; 1 normalizedDoubleVlan,
 /// 2 normalizedSingleVlan), no F letter.

@@ -1,7 +1,9 @@
 #include "bgp/NextHop.h"
 
+#include "address/Ethernet.h"
+#include "address/GenericAddress.h"
+#include "address/Ip.h"
 #include "bgp/EvpnL2Attrs.h"
-#include "bgp/FieldLayout.h"
 #include "mpls/Label.h"
 #include "registry/Bytes.h"
 #include "registry/Fields.h"
@@ -16,24 +18,24 @@ constexpr unsigned kTypeOffset = 5;
 constexpr unsigned kBodyOffset = 6;
 
 // An IPv6 SID and its length byte: address "/" length, 17 bytes.
-unsigned formatSid(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, appendIp6Addr, "/", formatU8);
-}
-unsigned lengthSid(const unsigned char* p) { return measureFields(p, lengthIp6Addr, lengthU8); }
+constexpr LabeledField kSidFields[] = {{"", &kIp6Field}, {"/", &kU8Field}, {""}};
 
-constexpr FieldKind kEvpnLabelField{formatEvpnLabel, lengthEvpnLabel, appendEvpnLabel};
-constexpr FieldKind kMplsLabelField{static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel};
-constexpr FieldKind kSidField{formatSid, lengthSid};
+constexpr FieldKind kEvpnLabelField{formatEvpnLabel, lengthEvpnLabel, appendEvpnLabel,
+                                    "EVPN label word", 4};
+constexpr FieldKind kMplsLabelField{static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel,
+                                    nullptr, "MPLS label", 4};
+constexpr FieldKind kSidField{formatTable<kSidFields>, lengthTable<kSidFields>, nullptr,
+                              "IPv6 SID, length byte", 17};
 
 // Fields that several next-hop types share.
-constexpr LabeledField kIp4{"<ip:", &kIp4Field}, kIp6{"<ip:", &kIp6Field};
+constexpr LabeledField kIp4{"<ip:", &kIpField}, kIp6{"<ip:", &kIp6Field};
 constexpr LabeledField kIpv6{"<ipv6:", &kIp6Field};
 constexpr LabeledField kLabel{", label:", &kEvpnLabelField};
 constexpr LabeledField kLabel2{", label2:", &kEvpnLabelField};
 constexpr LabeledField kL3Label{", l3Label:", &kEvpnLabelField};
 constexpr LabeledField kL3Label2{", l3Label2:", &kEvpnLabelField};
-constexpr LabeledField kRouterMac{", routerMac:", &kMacField};
-constexpr LabeledField kEsi{", esi:", &kEsiField};
+constexpr LabeledField kRouterMac{", routerMac:", &kEthField};
+constexpr LabeledField kEsi{", esi:", &kEthSegmentField};
 constexpr LabeledField kMcastFlags{", mcastFlags:", &kU8Field};
 constexpr LabeledField kMaxResponseTime{", maxResponseTime:", &kU8Field};
 constexpr LabeledField kRemoteDomain{", remoteDomain:", &kBoolField};
@@ -67,7 +69,7 @@ constexpr FieldLayout routerMacsNextHop(LabeledField ip) {
            kL3Label,
            kRouterMac,
            {", localL3Label:", &kEvpnLabelField},
-           {", localRouterMac:", &kMacField},
+           {", localRouterMac:", &kEthField},
            {", localL3Label2:", &kEvpnLabelField}},
           ">"};
 }
@@ -77,7 +79,7 @@ constexpr FieldLayout kNullNextHop{{}, "NULL"};
 // Indexed by next-hop type.
 constexpr FieldLayout kNextHopLayouts[] = {
     /* 0 */ kNullNextHop,
-    /* 1 */ {{{"", &kIp4Field}}},
+    /* 1 */ {{{"", &kIpField}}},
     /* 2 */ {{{"", &kIp6Field}}},
     /* 3 */ {{kIp4, kRouterMac}, ">"},
     /* 4 */ {{kIp6, kRouterMac}, ">"},
@@ -98,15 +100,15 @@ constexpr FieldLayout kNextHopLayouts[] = {
     /* 19 */ {{{"<l3Label:", &kEvpnLabelField}, kRouterMac, kL3Label2}, ">"},
     /* 20 */ routerMacsNextHop(kIp4),
     /* 21 */ routerMacsNextHop(kIp6),
-    /* 22 */ {{{"", &kGenAddrField}}},
+    /* 22 */ {{{"", &kIpGenAddrField}}},
     /* 23 */
-    {{{"<esi:", &kEsiField}, kLabel, kL3Label, kLabel2, kL3Label2, kNdProxyFlag}, ">"},
+    {{{"<esi:", &kEthSegmentField}, kLabel, kL3Label, kLabel2, kL3Label2, kNdProxyFlag}, ">"},
     /* 24 */ {{{"<label:", &kEvpnLabelField}, kLabel2}, ">"},
     /* 25 */ {{{"<l3Label:", &kEvpnLabelField}, kRouterMac, kL3Label2, kL3Sid}, ">"},
     /* 26 */ {{kIpv6, kL3Sid}, ">"},
-    /* 27 */ {{{"<ip:", &kGenAddrField}, kVbs, kLabelBase}, ">"},
-    /* 28 */ {{{"", &kGenAddrOptField}}},
-    /* 29 */ {{{"<ip:", &kGenAddrOptField}, kVbs, kLabelBase}, ">"},
+    /* 27 */ {{{"<ip:", &kIpGenAddrField}, kVbs, kLabelBase}, ">"},
+    /* 28 */ {{{"", &kIpGenAddrOptField}}},
+    /* 29 */ {{{"<ip:", &kIpGenAddrOptField}, kVbs, kLabelBase}, ">"},
     /* 30 */ evpnNextHop(kL2AttrsV2, kEtreeLeafLabel),
     /* 31 */ {{kIp4, kRemoteDomain, kL2AttrsV3}, ">"},
     /* 32 */ evpnNextHop(kL2AttrsV3, kEtreeLeafLabel),
@@ -124,10 +126,14 @@ const char* vrfKindName(unsigned char kind) {
 
 } // namespace
 
+constexpr FieldVariants kBgpGenNextHopVariants{
+    "the next-hop type (byte 5), the body starting at byte 6 (types above 32 print NULL "
+    "as type 0 does)",
+    std::size(kNextHopLayouts),
+    [](unsigned type) -> const LabeledField* { return kNextHopLayouts[type].fields; }};
+
 std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
-  printBgpVrfId(p, text);
-  return text.flush();
+  return printThroughRun(os, [p](TextRun& text) { printBgpVrfId(p, text); });
 }
 
 void printBgpVrfId(const unsigned char* p, TextRun& text) {
@@ -135,18 +141,19 @@ void printBgpVrfId(const unsigned char* p, TextRun& text) {
   text.number(load<uint32_t>(p + 1));
 }
 
-unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
-  const unsigned count = formatLayout(nextHopLayout(p), p, kBodyOffset, text);
+unsigned appendBgpGenNextHop(const unsigned char* p, TextRun& text) {
+  const unsigned count = printFields(nextHopLayout(p).fields, p, kBodyOffset, text);
   text << " (";
   printBgpVrfId(p, text);
   text << ")";
-  text.flush();
   return count;
+}
+unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendBgpGenNextHop>(p, os);
 }
 
 unsigned lengthBgpGenNextHop(const unsigned char* p) {
-  return measureLayout(nextHopLayout(p), p, kBodyOffset);
+  return measureFields(nextHopLayout(p).fields, p, kBodyOffset);
 }
 
 } // namespace Orvane

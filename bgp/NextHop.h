@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -21,6 +22,8 @@ ORVANE_API std::ostream& formatBgpVrfIdForRkAndNh(const unsigned char* p, std::o
 /// the text pending in `text`, and so does the number where TextRun::number() allows.
 void printBgpVrfId(const unsigned char* p, TextRun& text);
 
+/// The bodies of "BNH" by next-hop type, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kBgpGenNextHopVariants;
 /// "BNH": the body of the next-hop type at p[5], then " (" VRF ")". Type 0 and types
 /// above 32 print "NULL" as their body. Layer-2 attributes follow the field before
 /// them without a separator of ours (they print their own). Returns 6 plus the counts
@@ -31,5 +34,7 @@ ORVANE_API unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os
 /// u16, u32 and string, the Opt generic address of types 28 and 29, and the 8-or-4-byte
 /// layer-2 attributes) are measured at their offsets.
 ORVANE_API unsigned lengthBgpGenNextHop(const unsigned char* p);
+/// The append form (TextRun.h) of "BNH".
+unsigned appendBgpGenNextHop(const unsigned char* p, TextRun& text);
 
 } // namespace Orvane

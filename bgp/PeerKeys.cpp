@@ -1,10 +1,13 @@
 #include "bgp/PeerKeys.h"
 
-#include "bgp/FieldLayout.h"
+#include "address/Ethernet.h"
+#include "address/GenericAddress.h"
+#include "address/Ip.h"
 #include "bgp/RouteKey.h"
 #include "bgp/RouteKeyLayout.h"
 #include "bgp/RouteKeyWrappers.h"
 #include "registry/Bytes.h"
+#include "registry/Fields.h"
 
 #include <cstdint>
 #include <iterator>
@@ -16,18 +19,18 @@ constexpr unsigned kPeerBodyOffset = 1;
 constexpr unsigned kBmpNameOffset = 3;
 
 constexpr LabeledField kInterfaceName{"%", &kStringField};
-constexpr LabeledField kIpv4InParentheses{" (", &kIp4Field};
+constexpr LabeledField kIpv4InParentheses{" (", &kIpField};
 
 // Indexed by peer-key type.
 constexpr FieldLayout kPeerKeyLayouts[] = {
     /* 0 */ {},
-    /* 1 */ {{{"", &kGenAddrField}, kInterfaceName}},
-    /* 2 */ {{{"", &kGenAddrField}}},
+    /* 1 */ {{{"", &kIpGenAddrField}, kInterfaceName}},
+    /* 2 */ {{{"", &kIpGenAddrField}}},
     /* 3 */ {{{"", &kStringField}}},
-    /* 4 */ {{{"", &kGenAddrField}, kIpv4InParentheses}, ")"},
-    /* 5 */ {{{"", &kGenAddrOptField}, kInterfaceName}},
-    /* 6 */ {{{"", &kGenAddrOptField}}},
-    /* 7 */ {{{"", &kGenAddrOptField}, kIpv4InParentheses}, ")"},
+    /* 4 */ {{{"", &kIpGenAddrField}, kIpv4InParentheses}, ")"},
+    /* 5 */ {{{"", &kIpGenAddrOptField}, kInterfaceName}},
+    /* 6 */ {{{"", &kIpGenAddrOptField}}},
+    /* 7 */ {{{"", &kIpGenAddrOptField}, kIpv4InParentheses}, ")"},
 };
 
 const FieldLayout& peerKeyLayout(const unsigned char* p) {
@@ -40,33 +43,41 @@ unsigned short bmpSafi(const unsigned char* p) { return p[2]; }
 
 } // namespace
 
+constexpr FieldVariants kBgpPeerKeyVariants{
+    "the peer-key type (byte 0), the body starting at byte 1 (types above 7 print nothing)",
+    std::size(kPeerKeyLayouts),
+    [](unsigned type) -> const LabeledField* { return kPeerKeyLayouts[type].fields; }};
+
 unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os) {
-  return formatLayout(peerKeyLayout(p), p, kPeerBodyOffset, os);
+  return formatFields(peerKeyLayout(p).fields, p, os, kPeerBodyOffset);
 }
 unsigned lengthBgpPeerKey(const unsigned char* p) {
-  return measureLayout(peerKeyLayout(p), p, kPeerBodyOffset);
+  return measureFields(peerKeyLayout(p).fields, p, kPeerBodyOffset);
 }
 
-unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+// The peer's name is the host's to print.
+unsigned appendBmpRouteKey(const unsigned char* p, TextRun& text) {
   printRouteKeyFrameOpening(bmpAfi(p), bmpSafi(p), text);
   const unsigned keyOffset = kBmpNameOffset + formatString(p + kBmpNameOffset, text.flush());
   text << "; ";
-  const unsigned key = formatBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, text);
+  const unsigned key = appendBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset, text);
   text << ")> ";
-  text.flush();
   return keyOffset + key;
+}
+unsigned formatBmpRouteKey(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendBmpRouteKey>(p, os);
 }
 unsigned lengthBmpRouteKey(const unsigned char* p) {
   const unsigned keyOffset = kBmpNameOffset + lengthString(p + kBmpNameOffset);
   return keyOffset + lengthBgpRouteKey(bmpAfi(p), bmpSafi(p), p + keyOffset);
 }
 
-unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendAdjRibinType(const unsigned char* p, TextRun& text) {
   text << "<AdjRibin:" << nameOr(adjRibinTypeNames, p[0], "unknown") << ">";
-  text.flush();
   return lengthAdjRibinType(p);
+}
+unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendAdjRibinType>(p, os);
 }
 unsigned lengthAdjRibinType(const unsigned char*) { return 1; }
 

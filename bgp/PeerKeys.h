@@ -8,7 +8,9 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/NameTable.h"
+#include "registry/TextRun.h"
 
 #include <ostream>
 #include <utility>
@@ -33,6 +35,8 @@ inline constexpr std::pair<unsigned, const char*> kAdjRibinTypeNameEntries[] = {
 /// Adj-RIB-in type names by code; built at load time (KaMessageFormatter.cpp).
 extern const NameTable adjRibinTypeNames;
 
+/// The bodies of "BPK" by peer-key type, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kBgpPeerKeyVariants;
 /// "BPK": the body of the peer-key type at p[0]; nothing for types 0 and 8..255.
 /// Returns 1 + the counts of the body's fields.
 ORVANE_API unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os);
@@ -52,5 +56,9 @@ ORVANE_API unsigned lengthBmpRouteKey(const unsigned char* p);
 /// "RIBINT": "<AdjRibin:" the name of the code at p[0], or "unknown", ">". Returns 1.
 ORVANE_API unsigned formatAdjRibinType(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthAdjRibinType(const unsigned char* p); ///< 1
+
+/// The append forms (TextRun.h) of "BMPRK" and "RIBINT".
+unsigned appendBmpRouteKey(const unsigned char* p, TextRun& text);
+unsigned appendAdjRibinType(const unsigned char* p, TextRun& text);
 
 } // namespace Orvane

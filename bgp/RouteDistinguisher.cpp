@@ -48,6 +48,9 @@ unsigned formatMembershipTarget(const unsigned char* p, std::ostream& os) {
   return 9;
 }
 
+constexpr FieldKind kMembershipTargetField{formatMembershipTarget, fixedLength<9>, nullptr,
+                                           "route target, prefix length byte", 9};
+
 } // namespace
 
 void printRouteDistinguisher(unsigned long long rd, TextRun& text) {
@@ -88,15 +91,11 @@ void printRouteTarget(unsigned long long rt, TextRun& text) {
 }
 
 void formatRouteDistinguisher(unsigned long long rd, std::ostream& os) {
-  TextRun text(os);
-  printRouteDistinguisher(rd, text);
-  text.flush();
+  printThroughRun(os, [rd](TextRun& text) { printRouteDistinguisher(rd, text); });
 }
 
 void formatRouteTarget(unsigned long long rt, std::ostream& os) {
-  TextRun text(os);
-  printRouteTarget(rt, text);
-  text.flush();
+  printThroughRun(os, [rt](TextRun& text) { printRouteTarget(rt, text); });
 }
 
 unsigned appendRouteDistinguisher(const unsigned char* p, TextRun& text) {
@@ -119,9 +118,14 @@ unsigned formatRouteTarget(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthRouteTarget(const unsigned char*) { return 8; }
 
+constexpr LabeledField kRtMembershipRouteKeyRows[] = {
+    {"origin: ", &kU32FixedField}, {";", &kMembershipTargetField}, {""}};
+constexpr FieldTable kRtMembershipRouteKeyFields{kRtMembershipRouteKeyRows};
 unsigned formatRtMembershipRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "origin: ", formatU32, ";", formatMembershipTarget);
+  return formatTable<kRtMembershipRouteKeyRows>(p, os);
 }
-unsigned lengthRtMembershipRouteKey(const unsigned char*) { return 13; }
+unsigned lengthRtMembershipRouteKey(const unsigned char* p) {
+  return lengthTable<kRtMembershipRouteKeyRows>(p);
+}
 
 } // namespace Orvane

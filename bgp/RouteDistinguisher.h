@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -48,6 +49,8 @@ void printRouteTarget(unsigned long long rt, TextRun& text);
 unsigned appendRouteDistinguisher(const unsigned char* p, TextRun& text);
 unsigned appendRouteTarget(const unsigned char* p, TextRun& text);
 
+/// The table of "RTMRK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kRtMembershipRouteKeyFields;
 /// "RTMRK": RT membership route key: u32 origin AS, u64 route target, u8 prefix length.
 /// Prints "origin: " AS ";" RT "/" length "; value: 0x" and the RT again in 16
 /// zero-padded upper-case hex digits, e.g.

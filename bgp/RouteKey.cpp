@@ -7,18 +7,16 @@ namespace Orvane {
 
 unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            std::ostream& os) {
-  TextRun text(os);
-  const unsigned count = formatBgpRouteKey(afi, safi, key, text);
-  text.flush();
-  return count;
+  return printThroughRun(os,
+                         [=](TextRun& text) { return appendBgpRouteKey(afi, safi, key, text); });
 }
 
-unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
+unsigned appendBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            TextRun& text) {
   const RouteKeyLayout* layout = findRouteKeyLayout(afi, safi, key);
   if (!layout)
     return kInvalidLength;
-  return formatLayout(layout->fields, key, layout->firstFieldOffset(), text);
+  return printFields(layout->fields.fields, key, layout->firstFieldOffset(), text);
 }
 
 } // namespace Orvane

@@ -10,11 +10,15 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
 
 namespace Orvane {
+
+/// The route key layouts by family (RouteKeyLayout.cpp), for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kBgpRouteKeyVariants;
 
 /// Prints the route key at `key` of (afi, safi) and returns lengthBgpRouteKey for the
 /// same bytes. A combination without a layout prints nothing and returns 0xFFFFFFFF.
@@ -23,8 +27,8 @@ namespace Orvane {
 ORVANE_API unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi,
                                       const unsigned char* key, std::ostream& os);
 /// formatBgpRouteKey() within a longer text: the key's labels join the text pending in
-/// `text`, and its closing text is left pending there (see formatLayout).
-unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
+/// `text`, and its closing text is left pending there (see printFields).
+unsigned appendBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            TextRun& text);
 
 } // namespace Orvane

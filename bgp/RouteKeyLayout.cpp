@@ -1,8 +1,10 @@
 #include "bgp/RouteKeyLayout.h"
 
 #include "address/GenericPrefix.h"
+#include "address/HexGroups.h"
+#include "bgp/AfiSafi.h"
 #include "bgp/RouteDistinguisher.h"
-#include "registry/HexDigits.h"
+#include "bgp/RouteKey.h"
 
 #include <array>
 #include <cstddef>
@@ -10,6 +12,9 @@
 
 namespace Orvane {
 namespace {
+
+// The largest raw block of any layout.
+constexpr unsigned kMostRawBytes = 63;
 
 // A block of bytes whose meaning the key does not name: "0x" and its bytes as pairs of
 // lower-case hex digits, up to the last non-zero byte; ".." stands for the zero bytes
@@ -20,16 +25,15 @@ void printRawBytes(std::ostream& os, const unsigned char* p, unsigned size) {
   while (shown > 1 && p[shown - 1] == 0)
     --shown;
   os << "0x";
-  for (unsigned i = 0; i < shown; ++i) {
-    char digits[2];
-    writeHexByte(p[i], digits);
-    os.write(digits, 2);
-  }
+  char digits[2 * kMostRawBytes];
+  const int n = static_cast<int>(shown);
+  os.write(digits, writeHexGroups(p, n, n, ' ', digits) - digits); // one group: no separator
   if (shown < size)
     os << "..";
 }
 
 template <unsigned Size> unsigned formatRawBytes(const unsigned char* p, std::ostream& os) {
+  static_assert(Size <= kMostRawBytes);
   printRawBytes(os, p, Size);
   return Size;
 }
@@ -82,14 +86,14 @@ constexpr FieldLayout kMacArpKey{{{"raw:", &kRawField<27>}, kU32, kU32}};
 // EVPN: the route type names the key, "<EVPN-TypeN-Key: rd:" ... ">". A compact key has
 // the Opt generic addresses where the full one has 21-byte ones, and prints the same.
 constexpr LabeledField kEtid{", etid:", &kU32Field}, kEtid2{", etid2:", &kU32Field};
-constexpr LabeledField kEsi{", esi:", &kEsiField};
+constexpr LabeledField kEsi{", esi:", &kEthSegmentField};
 
 constexpr FieldLayout evpnType1Key() {
   return {{{"<EVPN-Type1-Key: rd:", &kRdField}, kEsi, kEtid}, ">"};
 }
 constexpr FieldLayout evpnType2Key(const FieldKind& ip) {
   return {
-      {{"<EVPN-Type2-Key: rd:", &kRdField}, kEtid, kEtid2, {", mac:", &kMacField}, {", ip:", &ip}},
+      {{"<EVPN-Type2-Key: rd:", &kRdField}, kEtid, kEtid2, {", mac:", &kEthField}, {", ip:", &ip}},
       ">"};
 }
 constexpr FieldLayout evpnType3Key(const FieldKind& ip) {
@@ -143,13 +147,13 @@ constexpr FieldLayout kMacSynchKey{{{"raw:", &kRawField<10>}, kU32, kRaw63}};
 // together, so that a search looks at its own AFI's rows only (kAfiRows).
 constexpr RouteKeyLayout kRouteKeyLayouts[] = {
     {kAfiIpv4, kSafiFlowspec, kNoLetter, kFlowspecKey},
-    {kAfiIpv4, kSafiMplsVpn, kNoLetter, vpnPrefixKey(kIp4Field)},
+    {kAfiIpv4, kSafiMplsVpn, kNoLetter, vpnPrefixKey(kIpField)},
     {kAfiIpv4, kSafiRtMembership, kNoLetter, kRtMembershipKey},
-    {kAfiIpv4, kSafiSrTe, kNoLetter, srTeKey(kIp4Field)},
+    {kAfiIpv4, kSafiSrTe, kNoLetter, srTeKey(kIpField)},
     {kAfiIpv4, kSafiMacSegment, kNoLetter, kIpAdSegmentKey},
     {kAfiIpv4, kSafiMacArp, kNoLetter, kMacArpKey},
     {kAfiIpv4, kSafiFlowspecVpn, kNoLetter, kFlowspecVpnKey},
-    {kAfiIpv4, kAnySafi, kNoLetter, prefixKey(kIp4Field)},
+    {kAfiIpv4, kAnySafi, kNoLetter, prefixKey(kIpField)},
 
     {kAfiIpv6, kSafiFlowspec, kNoLetter, kFlowspecKey},
     {kAfiIpv6, kSafiSrTe, kNoLetter, srTeKey(kIp6Field)},
@@ -157,23 +161,23 @@ constexpr RouteKeyLayout kRouteKeyLayouts[] = {
     {kAfiIpv6, kSafiFlowspecVpn, kNoLetter, kFlowspecVpnKey},
     {kAfiIpv6, kAnySafi, kNoLetter, prefixKey(kIp6Field)},
 
-    {kAfiL2vpn, kSafiEvpn, '4', evpnType5Key(kIp4Field)},
+    {kAfiL2vpn, kSafiEvpn, '4', evpnType5Key(kIpField)},
     {kAfiL2vpn, kSafiEvpn, '6', evpnType5Key(kIp6Field)},
     {kAfiL2vpn, kSafiEvpn, 'A', evpnType1Key()},
-    {kAfiL2vpn, kSafiEvpn, 'E', evpnType4Key(kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'e', evpnType4Key(kGenAddrOptField)},
-    {kAfiL2vpn, kSafiEvpn, 'I', evpnType3Key(kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'i', evpnType3Key(kGenAddrOptField)},
-    {kAfiL2vpn, kSafiEvpn, 'M', evpnType2Key(kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'm', evpnType2Key(kGenAddrOptField)},
-    {kAfiL2vpn, kSafiEvpn, 'J', evpnSynchKey("<EVPN-Type7-Key: rd:", kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'V', evpnSynchKey("<EVPN-Type8-Key: rd:", kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'j', evpnSynchKey("<EVPN-Type7-Key: rd:", kGenAddrOptField)},
-    {kAfiL2vpn, kSafiEvpn, 'v', evpnSynchKey("<EVPN-Type8-Key: rd:", kGenAddrOptField)},
-    {kAfiL2vpn, kSafiEvpn, 'P', evpnThreeAddressKey("<EVPN-Type10-Key: rd:", kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'S', evpnThreeAddressKey("<EVPN-Type6-Key: rd:", kGenAddrField)},
-    {kAfiL2vpn, kSafiEvpn, 'p', evpnThreeAddressKey("<EVPN-Type10-Key: rd:", kGenAddrOptField)},
-    {kAfiL2vpn, kSafiEvpn, 's', evpnThreeAddressKey("<EVPN-Type6-Key: rd:", kGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 'E', evpnType4Key(kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'e', evpnType4Key(kIpGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 'I', evpnType3Key(kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'i', evpnType3Key(kIpGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 'M', evpnType2Key(kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'm', evpnType2Key(kIpGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 'J', evpnSynchKey("<EVPN-Type7-Key: rd:", kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'V', evpnSynchKey("<EVPN-Type8-Key: rd:", kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'j', evpnSynchKey("<EVPN-Type7-Key: rd:", kIpGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 'v', evpnSynchKey("<EVPN-Type8-Key: rd:", kIpGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 'P', evpnThreeAddressKey("<EVPN-Type10-Key: rd:", kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'S', evpnThreeAddressKey("<EVPN-Type6-Key: rd:", kIpGenAddrField)},
+    {kAfiL2vpn, kSafiEvpn, 'p', evpnThreeAddressKey("<EVPN-Type10-Key: rd:", kIpGenAddrOptField)},
+    {kAfiL2vpn, kSafiEvpn, 's', evpnThreeAddressKey("<EVPN-Type6-Key: rd:", kIpGenAddrOptField)},
     {kAfiL2vpn, kSafiVpls, 'A', {{{"AD: rd:", &kRdField}, kU32}}},
     {kAfiL2vpn,
      kSafiVpls,
@@ -188,8 +192,8 @@ constexpr RouteKeyLayout kRouteKeyLayouts[] = {
     {kAfiLinkState, kSafiLinkState, 'P',
      linkStateKey("prefixRk: proto:", {", raw:", &kRawField<27>})},
     {kAfiLinkState, kSafiLinkState, 'l',
-     linkStateKey("linkRk: proto:", {", raw:", &kRawField<18>}, {", ip:", &kGenAddrOptField},
-                  {", ip2:", &kGenAddrOptField})},
+     linkStateKey("linkRk: proto:", {", raw:", &kRawField<18>}, {", ip:", &kIpGenAddrOptField},
+                  {", ip2:", &kIpGenAddrOptField})},
     {kAfiLinkState, kSafiLinkState, 'p',
      linkStateKey("prefixRk: proto:", {", raw:", &kRawField<9>},
                   {", prefix:", &kGenPrefixOptField})},
@@ -251,7 +255,23 @@ bool matches(const RouteKeyLayout& layout, unsigned short safi, const unsigned c
          (layout.letter == kNoLetter || layout.letter == key[0]);
 }
 
+// "ipv4/mplsVpn", "l2vpn/evpn, letter M", "ipv6/any other SAFI".
+void writeLayoutName(unsigned row, std::ostream& os) {
+  const RouteKeyLayout& layout = kRouteKeyLayouts[row];
+  os << afiName(layout.afi) << "/"
+     << (layout.safi == kAnySafi ? "any other SAFI" : safiName(layout.safi));
+  if (layout.letter != kNoLetter) os << ", letter " << layout.letter;
+}
+
 } // namespace
+
+constexpr FieldVariants kBgpRouteKeyVariants{
+    "the AFI and SAFI and, in the families that have one, the route-type letter in the "
+    "key's first byte (the fields follow it); the first row that matches is the layout, "
+    "and a combination without one prints no key",
+    std::size(kRouteKeyLayouts),
+    [](unsigned row) -> const LabeledField* { return kRouteKeyLayouts[row].fields.fields; },
+    writeLayoutName};
 
 const RouteKeyLayout* findRouteKeyLayout(unsigned short afi, unsigned short safi,
                                          const unsigned char* key) {
@@ -268,7 +288,7 @@ unsigned lengthBgpRouteKey(unsigned short afi, unsigned short safi, const unsign
   const RouteKeyLayout* layout = findRouteKeyLayout(afi, safi, key);
   if (!layout)
     return kInvalidLength;
-  return measureLayout(layout->fields, key, layout->firstFieldOffset());
+  return measureFields(layout->fields.fields, key, layout->firstFieldOffset());
 }
 
 } // namespace Orvane

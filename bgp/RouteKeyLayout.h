@@ -12,8 +12,11 @@
 // so a compact key's tags are read where the previous field ends.
 #pragma once
 
-#include "bgp/FieldLayout.h"
+#include "address/Ethernet.h"
+#include "address/GenericAddress.h"
+#include "address/Ip.h"
 #include "registry/Export.h"
+#include "registry/Fields.h"
 
 namespace Orvane {
 

@@ -2,6 +2,7 @@
 
 #include "bgp/AfiSafi.h"
 #include "bgp/NextHop.h"
+#include "bgp/NlriType.h"
 #include "bgp/RouteKey.h"
 #include "bgp/RouteKeyLayout.h"
 #include "registry/Bytes.h"
@@ -24,17 +25,15 @@ KeyRecord readNew(const unsigned char* p) {
   return {6, bgpRouteKeyParseNlriType(p[0]), p[0], p + 1};
 }
 
-unsigned formatRecord(const KeyRecord& record, const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendRecord(const KeyRecord& record, const unsigned char* p, TextRun& text) {
   printRouteKeyFrameOpening(record.family.afi, record.family.safi, text);
   printBgpVrfId(record.vrf, text);
   text << "; ";
   const unsigned key =
-      formatBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize, text);
+      appendBgpRouteKey(record.family.afi, record.family.safi, p + record.headerSize, text);
   text << " nlriType-";
   text.number(record.nlriType);
   text << ")> ";
-  text.flush();
   return record.headerSize + key;
 }
 
@@ -49,13 +48,19 @@ void printRouteKeyFrameOpening(unsigned short afi, unsigned short safi, TextRun&
   text << " RouteKey<(" << afiName(afi) << "/" << safiName(safi) << ") (";
 }
 
+unsigned appendBgpRouteKeyOld(const unsigned char* p, TextRun& text) {
+  return appendRecord(readOld(p), p, text);
+}
 unsigned formatBgpRouteKeyOld(const unsigned char* p, std::ostream& os) {
-  return formatRecord(readOld(p), p, os);
+  return formatThroughRun<appendBgpRouteKeyOld>(p, os);
 }
 unsigned lengthBgpRouteKeyOld(const unsigned char* p) { return lengthRecord(readOld(p), p); }
 
+unsigned appendBgpRouteKeyNew(const unsigned char* p, TextRun& text) {
+  return appendRecord(readNew(p), p, text);
+}
 unsigned formatBgpRouteKeyNew(const unsigned char* p, std::ostream& os) {
-  return formatRecord(readNew(p), p, os);
+  return formatThroughRun<appendBgpRouteKeyNew>(p, os);
 }
 unsigned lengthBgpRouteKeyNew(const unsigned char* p) { return lengthRecord(readNew(p), p); }
 

@@ -34,4 +34,8 @@ ORVANE_API unsigned formatBgpRouteKeyNew(const unsigned char* p, std::ostream& o
 /// 6 + lengthBgpRouteKey of the NLRI type's (AFI, SAFI) at p + 6.
 ORVANE_API unsigned lengthBgpRouteKeyNew(const unsigned char* p);
 
+/// The append forms (TextRun.h) of "BRK" and "BRY".
+unsigned appendBgpRouteKeyOld(const unsigned char* p, TextRun& text);
+unsigned appendBgpRouteKeyNew(const unsigned char* p, TextRun& text);
+
 } // namespace Orvane

@@ -13,43 +13,62 @@ constexpr unsigned char kExtendedEntry = 1;
 
 } // namespace
 
+constexpr LabeledField kArpInputConfigKeyRows[] = {
+    {"[", &kIpGenAddrOptField}, {"][", &kStringField}, {"]"}};
+constexpr FieldTable kArpInputConfigKeyFields{kArpInputConfigKeyRows};
 unsigned formatArpInputConfigKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendIpGenAddrOpt, "][", formatString, "]");
+  return formatTable<kArpInputConfigKeyRows>(p, os);
 }
 unsigned lengthArpInputConfigKey(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddrOpt, lengthString);
+  return lengthTable<kArpInputConfigKeyRows>(p);
 }
 
-// The flag is read before it is printed and alone decides whether the two extra
-// numbers exist.
-unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os) {
-  unsigned off = formatFields(p, os, formatArpInputConfigKey, "[", appendEth, "][");
+// An entry: the key and the MAC, then the flag and a number; the flag alone decides
+// whether two more numbers follow.
+constexpr FieldKind kArpInputConfigKeyField{formatArpInputConfigKey, lengthArpInputConfigKey,
+                                            nullptr, "ARP input configuration key (ARPICK)"};
+constexpr LabeledField kEntryAddresses[] = {
+    {"", &kArpInputConfigKeyField}, {"[", &kEthField}, {"]["}};
+constexpr LabeledField kEntryNumbers[] = {{"", &kU8Field}, {"][", &kU32Field}, {""}};
+constexpr LabeledField kEntryExtension[] = {{"][", &kU32Field}, {"][", &kU32Field}, {""}};
+
+unsigned appendArpInputConfigEntry(const unsigned char* p, TextRun& text) {
+  unsigned off = printFields(kEntryAddresses, p, 0, text);
   const bool extended = at(p, off)[0] == kExtendedEntry;
-  off += formatFields(at(p, off), os, formatU8, "][", formatU32);
-  if (extended) off += formatFields(at(p, off), os, "][", formatU32, "][", formatU32);
-  os << "]";
+  off = printFields(kEntryNumbers, p, off, text);
+  if (extended) off = printFields(kEntryExtension, p, off, text);
+  text << "]";
   return off;
+}
+unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendArpInputConfigEntry>(p, os);
 }
 unsigned lengthArpInputConfigEntry(const unsigned char* p) {
-  unsigned off = measureFields(p, lengthArpInputConfigKey, lengthEth);
+  unsigned off = measureFields(kEntryAddresses, p);
   const bool extended = at(p, off)[0] == kExtendedEntry;
-  off += measureFields(at(p, off), lengthU8, lengthU32);
-  if (extended) off += measureFields(at(p, off), lengthU32, lengthU32);
-  return off;
+  off = measureFields(kEntryNumbers, p, off);
+  return extended ? measureFields(kEntryExtension, p, off) : off;
 }
 
+constexpr LabeledField kArpInputPriorityKeyRows[] = {{"[", &kU8Field}, {"][", &kU32Field}, {"]"}};
+constexpr FieldTable kArpInputPriorityKeyFields{kArpInputPriorityKeyRows};
 unsigned formatArpInputPriorityKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU8, "][", formatU32, "]");
+  return formatTable<kArpInputPriorityKeyRows>(p, os);
 }
 unsigned lengthArpInputPriorityKey(const unsigned char* p) {
-  return measureFields(p, lengthU8, lengthU32);
+  return lengthTable<kArpInputPriorityKeyRows>(p);
 }
 
+constexpr FieldKind kArpInputPriorityKeyField{formatArpInputPriorityKey, lengthArpInputPriorityKey,
+                                              nullptr, "ARP input priority key (ARPIPK)"};
+constexpr LabeledField kArpInputPriorityInterfaceKeyRows[] = {
+    {"", &kArpInputPriorityKeyField}, {"[", &kStringField}, {"]"}};
+constexpr FieldTable kArpInputPriorityInterfaceKeyFields{kArpInputPriorityInterfaceKeyRows};
 unsigned formatArpInputPriorityInterfaceKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatArpInputPriorityKey, "[", formatString, "]");
+  return formatTable<kArpInputPriorityInterfaceKeyRows>(p, os);
 }
 unsigned lengthArpInputPriorityInterfaceKey(const unsigned char* p) {
-  return measureFields(p, lengthArpInputPriorityKey, lengthString);
+  return lengthTable<kArpInputPriorityInterfaceKeyRows>(p);
 }
 
 } // namespace Orvane

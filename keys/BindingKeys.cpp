@@ -8,71 +8,84 @@
 
 namespace Orvane {
 
+constexpr LabeledField kDuidMacBindingKeyRows[] = {{"duid(type: ", &kU16Field},
+                                                   {", hwtype: ", &kU16Field},
+                                                   {", lladdr: ", &kEthField},
+                                                   {", uuid: ", &kStringField},
+                                                   {", entno: ", &kU32Field},
+                                                   {", entId: ", &kStringField},
+                                                   {")"}};
+constexpr FieldTable kDuidMacBindingKeyFields{kDuidMacBindingKeyRows};
 unsigned formatDuidMacBindingKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "duid(type: ", formatU16, ", hwtype: ", formatU16,
-                      ", lladdr: ", appendEth, ", uuid: ", formatString, ", entno: ", formatU32,
-                      ", entId: ", formatString, ")");
+  return formatTable<kDuidMacBindingKeyRows>(p, os);
 }
-// The host is asked for the width of the first u16 only; both count with it.
 unsigned lengthDuidMacBindingKey(const unsigned char* p) {
-  const unsigned types = 2 * lengthU16(p);
-  return types + measureFields(at(p, types), lengthEth, lengthString, lengthU32, lengthString);
+  return lengthTable<kDuidMacBindingKeyRows>(p);
 }
 
+constexpr LabeledField kIpMacV2Rows[] = {
+    {"[", &kIpGenAddrField}, {",", &kEthField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
+constexpr FieldTable kIpMacV2Fields{kIpMacV2Rows};
 unsigned formatIpMacV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendIpGenAddr, ",", appendEth, ",", formatU32, ",", formatU8,
-                      "]");
+  return formatTable<kIpMacV2Rows>(p, os);
 }
-unsigned lengthIpMacV2(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddr, lengthEth, lengthU32, lengthU8);
-}
+unsigned lengthIpMacV2(const unsigned char* p) { return lengthTable<kIpMacV2Rows>(p); }
 
+constexpr LabeledField kIpMacV2OptimizedRows[] = {
+    {"[", &kIpGenAddrOptField}, {",", &kEthField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
+constexpr FieldTable kIpMacV2OptimizedFields{kIpMacV2OptimizedRows};
 unsigned formatIpMacV2Optimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendIpGenAddrOpt, ",", appendEth, ",", formatU32, ",", formatU8,
-                      "]");
+  return formatTable<kIpMacV2OptimizedRows>(p, os);
 }
 unsigned lengthIpMacV2Optimized(const unsigned char* p) {
-  return measureFields(p, lengthIpGenAddrOpt, lengthEth, lengthU32, lengthU8);
+  return lengthTable<kIpMacV2OptimizedRows>(p);
 }
 
+constexpr LabeledField kMacVtepRows[] = {
+    {"[", &kEthField}, {",", &kIpField}, {",", &kU32Field}, {",", &kU8Field}, {"]"}};
+constexpr FieldTable kMacVtepFields{kMacVtepRows};
 unsigned formatMacVtep(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendEth, ",", appendIp, ",", formatU32, ",", formatU8, "]");
+  return formatTable<kMacVtepRows>(p, os);
 }
-unsigned lengthMacVtep(const unsigned char* p) {
-  return measureFields(p, lengthEth, lengthIp, lengthU32, lengthU8);
-}
+unsigned lengthMacVtep(const unsigned char* p) { return lengthTable<kMacVtepRows>(p); }
 
+constexpr LabeledField kMacVlanPairRows[] = {{"[", &kEthField}, {",", &kU16Field}, {"]"}};
+constexpr FieldTable kMacVlanPairFields{kMacVlanPairRows};
 unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", appendEth, ",", formatU16, "]");
+  return formatTable<kMacVlanPairRows>(p, os);
 }
-unsigned lengthMacVlanPair(const unsigned char* p) {
-  return measureFields(p, lengthEth, lengthU16);
-}
+unsigned lengthMacVlanPair(const unsigned char* p) { return lengthTable<kMacVlanPairRows>(p); }
 
+constexpr LabeledField kVlanIpPairRows[] = {{"[", &kU16Field}, {",", &kIpGenAddrField}, {"]"}};
+constexpr FieldTable kVlanIpPairFields{kVlanIpPairRows};
 unsigned formatVlanIpPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU16, ",", appendIpGenAddr, "]");
+  return formatTable<kVlanIpPairRows>(p, os);
 }
-unsigned lengthVlanIpPair(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenAddr);
-}
+unsigned lengthVlanIpPair(const unsigned char* p) { return lengthTable<kVlanIpPairRows>(p); }
 
+constexpr LabeledField kVlanIpPairOptimizedRows[] = {
+    {"[", &kU16Field}, {",", &kIpGenAddrOptField}, {"]"}};
+constexpr FieldTable kVlanIpPairOptimizedFields{kVlanIpPairOptimizedRows};
 unsigned formatVlanIpPairOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU16, ",", appendIpGenAddrOpt, "]");
+  return formatTable<kVlanIpPairOptimizedRows>(p, os);
 }
 unsigned lengthVlanIpPairOptimized(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenAddrOpt);
+  return lengthTable<kVlanIpPairOptimizedRows>(p);
 }
 
+constexpr LabeledField kVrfIdPairRows[] = {{"(", &kU32FixedField}, {"-", &kU32FixedField}, {")"}};
+constexpr FieldTable kVrfIdPairFields{kVrfIdPairRows};
 unsigned formatVrfIdPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU32, "-", formatU32, ")");
+  return formatTable<kVrfIdPairRows>(p, os);
 }
-unsigned lengthVrfIdPair(const unsigned char*) { return 8; }
+unsigned lengthVrfIdPair(const unsigned char* p) { return lengthTable<kVrfIdPairRows>(p); }
 
+constexpr LabeledField kVniSourcePairRows[] = {
+    {"[", &kU32Field}, {",", &kStringField}, {",", &kStringField}, {"]"}};
+constexpr FieldTable kVniSourcePairFields{kVniSourcePairRows};
 unsigned formatVniSourcePair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "[", formatU32, ",", formatString, ",", formatString, "]");
+  return formatTable<kVniSourcePairRows>(p, os);
 }
-unsigned lengthVniSourcePair(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthString, lengthString);
-}
+unsigned lengthVniSourcePair(const unsigned char* p) { return lengthTable<kVniSourcePairRows>(p); }
 
 } // namespace Orvane

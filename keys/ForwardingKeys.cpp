@@ -20,50 +20,73 @@ unsigned formatFapmask(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthFapmask(const unsigned char*) { return 16; }
 
+constexpr LabeledField kOutAcTypeKeyRows[] = {
+    {"(fapId: ", &kU16Field}, {", acIndex: ", &kU32Field}, {", outAcType: ", &kU8Field}, {")"}};
+constexpr FieldTable kOutAcTypeKeyFields{kOutAcTypeKeyRows};
 unsigned formatOutAcTypeKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(fapId: ", formatU16, ", acIndex: ", formatU32,
-                      ", outAcType: ", formatU8, ")");
+  return formatTable<kOutAcTypeKeyRows>(p, os);
 }
-unsigned lengthOutAcTypeKey(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthU32, lengthU8);
-}
+unsigned lengthOutAcTypeKey(const unsigned char* p) { return lengthTable<kOutAcTypeKeyRows>(p); }
 
+constexpr LabeledField kOutAcKeyRows[] = {{"(fapMask: ", &kFapmaskField},
+                                          {", acFormat: ", &kU32Field},
+                                          {", ", &kU32Field},
+                                          {", ", &kU32Field},
+                                          {", acIndex: ", &kU32Field},
+                                          {", pool: ", &kU8Field},
+                                          {", appId: ", &kU8Field},
+                                          {", intfId: ", &kStringField},
+                                          {", vlanId: ", &kU16Field},
+                                          {", innerOutlif: ", &kU32Field},
+                                          {", isL2SubIntf: ", &kBoolField},
+                                          {")"}};
+constexpr FieldTable kOutAcKeyFields{kOutAcKeyRows};
 unsigned formatOutAcKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(fapMask: ", appendFapmask, ", acFormat: ", formatU32, ", ",
-                      formatU32, ", ", formatU32, ", acIndex: ", formatU32, ", pool: ", formatU8,
-                      ", appId: ", formatU8, ", intfId: ", formatString, ", vlanId: ", formatU16,
-                      ", innerOutlif: ", formatU32, ", isL2SubIntf: ", formatBool, ")");
+  return formatTable<kOutAcKeyRows>(p, os);
 }
-unsigned lengthOutAcKey(const unsigned char* p) {
-  return measureFields(p, lengthFapmask, lengthU32, lengthU32, lengthU32, lengthU32, lengthU8,
-                       lengthU8, lengthString, lengthU16, lengthU32, lengthBool);
-}
+unsigned lengthOutAcKey(const unsigned char* p) { return lengthTable<kOutAcKeyRows>(p); }
 
+constexpr LabeledField kSviEgressEveKeyRows[] = {{"(vlanIntfId: ", &kStringField},
+                                                 {", intfId: ", &kStringField},
+                                                 {", fapId: ", &kU16Field},
+                                                 {", lagIntfId: ", &kStringField},
+                                                 {")"}};
+constexpr FieldTable kSviEgressEveKeyFields{kSviEgressEveKeyRows};
 unsigned formatSviEgressEveKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(vlanIntfId: ", formatString, ", intfId: ", formatString,
-                      ", fapId: ", formatU16, ", lagIntfId: ", formatString, ")");
+  return formatTable<kSviEgressEveKeyRows>(p, os);
 }
 unsigned lengthSviEgressEveKey(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthString, lengthU16, lengthString);
+  return lengthTable<kSviEgressEveKeyRows>(p);
 }
 
+constexpr FieldKind kSviEgressEveKeyField{formatSviEgressEveKey, lengthSviEgressEveKey, nullptr,
+                                          "SVI egress EVE key (SVIEVE)"};
+constexpr FieldKind kOutAcTypeKeyField{formatOutAcTypeKey, lengthOutAcTypeKey, nullptr,
+                                       "out-AC type key (OUTACTYPE)"};
+constexpr LabeledField kSviEgressEsemRequestKeyRows[] = {
+    {"(eveKey: ", &kSviEgressEveKeyField}, {", outAcTypeKey: ", &kOutAcTypeKeyField}, {")"}};
+constexpr FieldTable kSviEgressEsemRequestKeyFields{kSviEgressEsemRequestKeyRows};
 unsigned formatSviEgressEsemRequestKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(eveKey: ", formatSviEgressEveKey, ", outAcTypeKey: ",
-                      formatOutAcTypeKey, ")");
+  return formatTable<kSviEgressEsemRequestKeyRows>(p, os);
 }
 unsigned lengthSviEgressEsemRequestKey(const unsigned char* p) {
-  return measureFields(p, lengthSviEgressEveKey, lengthOutAcTypeKey);
+  return lengthTable<kSviEgressEsemRequestKeyRows>(p);
 }
 
+constexpr LabeledField kUdfDescRows[] = {{"", &kStringField},
+                                         {" ethtype:0x", &kU16HexField},
+                                         {" ", &kStringField},
+                                         {" ipProto:", &kU8Field},
+                                         {" innerEthType:0x", &kU16HexField},
+                                         {" offset:", &kU8Field},
+                                         {" length:", &kU8Field},
+                                         {" lagMask:0x", &kU32HexField},
+                                         {" priority:", &kU8Field},
+                                         {""}};
+constexpr FieldTable kUdfDescFields{kUdfDescRows};
 unsigned formatUdfDesc(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatString, " ethtype:0x", formatU16Hex, " ", formatString,
-                      " ipProto:", formatU8, " innerEthType:0x", formatU16Hex, " offset:",
-                      formatU8, " length:", formatU8, " lagMask:0x", formatU32Hex,
-                      " priority:", formatU8);
+  return formatTable<kUdfDescRows>(p, os);
 }
-unsigned lengthUdfDesc(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthU16, lengthString, lengthU8, lengthU16, lengthU8,
-                       lengthU8, lengthU32, lengthU8);
-}
+unsigned lengthUdfDesc(const unsigned char* p) { return lengthTable<kUdfDescRows>(p); }
 
 } // namespace Orvane

@@ -21,22 +21,24 @@ unsigned formatEncap(const unsigned char* p, std::ostream& os) {
     os << "0x" << std::hex << tpid << std::dec << ":p" << priority << ":" << vlanId;
   return lengthEncap(p);
 }
-unsigned lengthEncap(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthU16, lengthU8);
-}
+unsigned lengthEncap(const unsigned char* p) { return lengthU16(p) * 2 + lengthU8(p); }
 
+constexpr LabeledField kIntfEncapRows[] = {
+    {"", &kStringField}, {"(", &kU16Field}, {",", &kU16Field}, {")"}};
+constexpr FieldTable kIntfEncapFields{kIntfEncapRows};
 unsigned formatIntfEncap(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatString, "(", formatU16, ",", formatU16, ")");
+  return formatTable<kIntfEncapRows>(p, os);
 }
-unsigned lengthIntfEncap(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthU16, lengthU16);
-}
+unsigned lengthIntfEncap(const unsigned char* p) { return lengthTable<kIntfEncapRows>(p); }
 
+constexpr FieldKind kEncapField{formatEncap, lengthEncap, nullptr,
+                                "VLAN tag (u16 id, u16 TPID, u8 priority)", 5};
+constexpr LabeledField kIntfEncapV2Rows[] = {
+    {"", &kStringField}, {"(", &kEncapField}, {",", &kEncapField}, {")"}};
+constexpr FieldTable kIntfEncapV2Fields{kIntfEncapV2Rows};
 unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, formatString, "(", formatEncap, ",", formatEncap, ")");
+  return formatTable<kIntfEncapV2Rows>(p, os);
 }
-unsigned lengthIntfEncapV2(const unsigned char* p) {
-  return measureFields(p, lengthString, lengthEncap, lengthEncap);
-}
+unsigned lengthIntfEncapV2(const unsigned char* p) { return lengthTable<kIntfEncapV2Rows>(p); }
 
 } // namespace Orvane

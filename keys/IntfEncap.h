@@ -5,6 +5,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
@@ -17,11 +18,15 @@ ORVANE_API unsigned formatEncap(const unsigned char* p, std::ostream& os);
 /// lengthU16 + lengthU16 + lengthU8: 5.
 ORVANE_API unsigned lengthEncap(const unsigned char* p);
 
+/// The table of "IE" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kIntfEncapFields;
 /// "IE": interface string "(" u16 "," u16 ")", e.g. Ethernet1(10,20).
 ORVANE_API unsigned formatIntfEncap(const unsigned char* p, std::ostream& os);
 /// lengthString + lengthU16 + lengthU16.
 ORVANE_API unsigned lengthIntfEncap(const unsigned char* p);
 
+/// The table of "IE2" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kIntfEncapV2Fields;
 /// "IE2": interface string "(" outer tag "," inner tag ")", both as formatEncap.
 ORVANE_API unsigned formatIntfEncapV2(const unsigned char* p, std::ostream& os);
 /// lengthString + two VLAN tags.

@@ -5,30 +5,32 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-namespace {
-
-template <AppendPtr appendAddress> unsigned formatPeer(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "peer(ip:", appendAddress, ", vrf:", formatString,
-                      ", srcip:", appendAddress, ", intf:", formatString, ", tunnelId:", formatU64,
-                      ", type:", formatU32, ")");
-}
-template <LengthPtr lengthAddress> unsigned measurePeer(const unsigned char* p) {
-  return measureFields(p, lengthAddress, lengthString, lengthAddress, lengthString, lengthU64,
-                       lengthU32);
-}
-
-} // namespace
-
+constexpr LabeledField kBfdPeerRows[] = {{"peer(ip:", &kIpGenAddrField},
+                                         {", vrf:", &kStringField},
+                                         {", srcip:", &kIpGenAddrField},
+                                         {", intf:", &kStringField},
+                                         {", tunnelId:", &kU64Field},
+                                         {", type:", &kU32Field},
+                                         {")"}};
+constexpr FieldTable kBfdPeerFields{kBfdPeerRows};
 unsigned formatBfdPeer(const unsigned char* p, std::ostream& os) {
-  return formatPeer<appendIpGenAddr>(p, os);
+  return formatTable<kBfdPeerRows>(p, os);
 }
-unsigned lengthBfdPeer(const unsigned char* p) { return measurePeer<lengthIpGenAddr>(p); }
+unsigned lengthBfdPeer(const unsigned char* p) { return lengthTable<kBfdPeerRows>(p); }
 
+constexpr LabeledField kBfdPeerOptimizedRows[] = {{"peer(ip:", &kIpGenAddrOptField},
+                                                  {", vrf:", &kStringField},
+                                                  {", srcip:", &kIpGenAddrOptField},
+                                                  {", intf:", &kStringField},
+                                                  {", tunnelId:", &kU64Field},
+                                                  {", type:", &kU32Field},
+                                                  {")"}};
+constexpr FieldTable kBfdPeerOptimizedFields{kBfdPeerOptimizedRows};
 unsigned formatBfdPeerOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPeer<appendIpGenAddrOpt>(p, os);
+  return formatTable<kBfdPeerOptimizedRows>(p, os);
 }
 unsigned lengthBfdPeerOptimized(const unsigned char* p) {
-  return measurePeer<lengthIpGenAddrOpt>(p);
+  return lengthTable<kBfdPeerOptimizedRows>(p);
 }
 
 } // namespace Orvane

@@ -24,8 +24,6 @@ static_assert(std::size(kVertexSizes) == std::size(kVertexBodies));
 
 bool isValidVertex(unsigned char type) { return type < std::size(kVertexSizes); }
 
-enum ClientPathKind : unsigned char { kPathKey = 0, kP2mpPathKey = 1 };
-
 } // namespace
 
 unsigned formatCspfVertex(const unsigned char* p, std::ostream& os) {
@@ -36,33 +34,44 @@ unsigned lengthCspfVertex(const unsigned char* p) {
   return isValidVertex(p[0]) ? kVertexSizes[p[0]] : kInvalidLength;
 }
 
+// A fixed 4 for the id: the size table alone decides this key's size.
+constexpr LabeledField kCspfPathKeyRows[] = {
+    {"dst=", &kCspfVertexField}, {", id=", &kU32FixedField}, {""}};
+constexpr FieldTable kCspfPathKeyFields{kCspfPathKeyRows};
 unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "dst=", formatCspfVertex, ", id=", formatU32);
+  return formatTable<kCspfPathKeyRows>(p, os);
 }
-unsigned lengthCspfPathKey(const unsigned char* p) {
-  // A fixed 4 for the id: the size table alone decides this key's size.
-  return measureFields(p, lengthCspfVertex, 4u);
-}
+unsigned lengthCspfPathKey(const unsigned char* p) { return lengthTable<kCspfPathKeyRows>(p); }
+
+// The client key's bodies, after its kind byte.
+constexpr FieldKind kPathKeyField{formatCspfPathKey, lengthCspfPathKey, nullptr, "CSPF path key"};
+constexpr FieldKind kP2mpPathKeyField{formatCspfP2mpPathKey, lengthCspfP2mpPathKey, nullptr,
+                                      "CSPF P2MP path key", 4};
+constexpr LabeledField kPathKeyFields[] = {{"pathKey=<", &kPathKeyField}, {">"}};
+constexpr LabeledField kP2mpPathKeyFields[] = {{"p2mpPathKey=<", &kP2mpPathKeyField}, {">"}};
+// Indexed by the kind byte.
+constexpr const LabeledField* kClientPathBodies[] = {kPathKeyFields, kP2mpPathKeyFields};
+
+constexpr FieldVariants kCspfClientPathKeyVariants{
+    "the kind (byte 0), the body starting at byte 1 (any other kind is invalid)",
+    std::size(kClientPathBodies), [](unsigned kind) { return kClientPathBodies[kind]; }};
 
 unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os) {
-  switch (p[0]) {
-  case kPathKey: return 1 + formatFields(p + 1, os, "pathKey=<", formatCspfPathKey, ">");
-  case kP2mpPathKey:
-    return 1 + formatFields(p + 1, os, "p2mpPathKey=<", formatCspfP2mpPathKey, ">");
-  default: return kInvalidLength;
-  }
+  if (p[0] >= std::size(kClientPathBodies)) return kInvalidLength;
+  return formatFields(kClientPathBodies[p[0]], p, os, 1);
 }
 unsigned lengthCspfClientPathKey(const unsigned char* p) {
-  switch (p[0]) {
-  case kPathKey: return 1 + lengthCspfPathKey(p + 1);
-  case kP2mpPathKey: return 1 + lengthCspfP2mpPathKey(p + 1);
-  default: return kInvalidLength;
-  }
+  if (p[0] >= std::size(kClientPathBodies)) return kInvalidLength;
+  return measureFields(kClientPathBodies[p[0]], p, 1);
 }
 
+constexpr LabeledField kCspfP2mpPathKeyRows[] = {{"id=", &kU32FixedField}, {""}};
+constexpr FieldTable kCspfP2mpPathKeyFields{kCspfP2mpPathKeyRows};
 unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "id=", formatU32);
+  return formatTable<kCspfP2mpPathKeyRows>(p, os);
 }
-unsigned lengthCspfP2mpPathKey(const unsigned char*) { return 4; }
+unsigned lengthCspfP2mpPathKey(const unsigned char* p) {
+  return lengthTable<kCspfP2mpPathKeyRows>(p);
+}
 
 } // namespace Orvane

@@ -15,6 +15,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
@@ -26,6 +27,8 @@ ORVANE_API unsigned formatCspfVertex(const unsigned char* p, std::ostream& os);
 /// The vertex size by type; 0xFFFFFFFF for a type above 6.
 ORVANE_API unsigned lengthCspfVertex(const unsigned char* p);
 
+/// The table of "CPK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kCspfPathKeyFields;
 /// "CPK": "dst=" vertex ", id=" u32. Returns the vertex and u32 counts added.
 ORVANE_API unsigned formatCspfPathKey(const unsigned char* p, std::ostream& os);
 /// The vertex size + 4 (3 after an invalid vertex, wrapped).
@@ -35,13 +38,25 @@ ORVANE_API unsigned lengthCspfPathKey(const unsigned char* p);
 /// prints "p2mpPathKey=<" and a "CP2MPK" key and ">"; the kind byte counts 1 more.
 /// Any other kind prints nothing and returns 0xFFFFFFFF.
 ORVANE_API unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os);
+/// The bodies of "CCPK" by kind, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kCspfClientPathKeyVariants;
 /// Kind 0: 5 + the vertex size at byte 1 (4 after an invalid vertex, wrapped); kind 1:
 /// 5; any other kind: 0xFFFFFFFF.
 ORVANE_API unsigned lengthCspfClientPathKey(const unsigned char* p);
 
+/// The table of "CP2MPK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kCspfP2mpPathKeyFields;
 /// "CP2MPK": "id=" u32. Returns the u32 count.
 ORVANE_API unsigned formatCspfP2mpPathKey(const unsigned char* p, std::ostream& os);
 /// 4.
 ORVANE_API unsigned lengthCspfP2mpPathKey(const unsigned char* p);
+
+/// As a field of composite keys.
+inline constexpr FieldKind kCspfVertexField{formatCspfVertex,
+                                            lengthCspfVertex,
+                                            nullptr,
+                                            "CSPF vertex",
+                                            0,
+                                            "1 + the body its type byte names"};
 
 } // namespace Orvane

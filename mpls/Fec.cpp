@@ -6,68 +6,58 @@
 #include "registry/Formatter.h"
 #include "registry/HostInterface.h"
 
+#include <iterator>
+
 namespace Orvane {
 namespace {
 
 enum FecType : unsigned char { kPrefixFec = 0, kRsvpFec = 1, kMldpFec = 2, kPrefixAlgoFec = 3 };
 
-// The address and prefix encodings one FEC form uses.
-struct FecFields {
-  AppendPtr appendPrefix;
-  LengthPtr lengthPrefix;
-  AppendPtr appendAddress;
-  LengthPtr lengthAddress;
-};
+// The bodies after the type byte, indexed by the type: plain and optimized addresses.
+constexpr LabeledField kPrefix[] = {{"", &kIpGenPrefixField}, {""}};
+constexpr LabeledField kRsvp[] = {{"RSVP[Session=", &kU32Field}, {", SP=", &kU32Field}, {"]"}};
+constexpr LabeledField kMldp[] = {{"MLDP[Root=", &kIpGenAddrField}, {", ID=", &kU32Field}, {"]"}};
+constexpr LabeledField kPrefixAlgo[] = {
+    {"PFXALGO[", &kIpGenPrefixField}, {", ", &kU32Field}, {"]"}};
+constexpr const LabeledField* kFecBodies[] = {kPrefix, kRsvp, kMldp, kPrefixAlgo};
 
-constexpr FecFields kPlainFields{appendIpGenPrefix, lengthIpGenPrefix, appendIpGenAddr,
-                                 lengthIpGenAddr};
-constexpr FecFields kOptimizedFields{appendIpGenPrefixOptimized, lengthIpGenPrefixOptimized,
-                                     appendIpGenAddrOpt, lengthIpGenAddrOpt};
+constexpr LabeledField kPrefixOpt[] = {{"", &kIpGenPrefixOptimizedField}, {""}};
+constexpr LabeledField kMldpOpt[] = {
+    {"MLDP[Root=", &kIpGenAddrOptField}, {", ID=", &kU32Field}, {"]"}};
+constexpr LabeledField kPrefixAlgoOpt[] = {
+    {"PFXALGO[", &kIpGenPrefixOptimizedField}, {", ", &kU32Field}, {"]"}};
+constexpr const LabeledField* kFecBodiesOptimized[] = {kPrefixOpt, kRsvp, kMldpOpt, kPrefixAlgoOpt};
 
-// The body follows the type byte, so each walk starts at p + 1 and adds that byte.
-unsigned formatFec(const unsigned char* p, std::ostream& os, const FecFields& fields) {
-  const unsigned char* body = p + 1;
-  switch (p[0]) {
-  case kPrefixFec: return 1 + formatFields(body, os, fields.appendPrefix);
-  case kRsvpFec:
-    return 1 + formatFields(body, os, "RSVP[Session=", formatU32, ", SP=", formatU32, "]");
-  case kMldpFec:
-    return 1 + formatFields(body, os, "MLDP[Root=", fields.appendAddress, ", ID=", formatU32, "]");
-  case kPrefixAlgoFec:
-    return 1 + formatFields(body, os, "PFXALGO[", fields.appendPrefix, ", ", formatU32, "]");
-  default:
-    return kInvalidLength;
-  }
-}
-
-unsigned measureFec(const unsigned char* p, const FecFields& fields) {
-  const unsigned char* body = p + 1;
-  switch (p[0]) {
-  case kPrefixFec:
-    return 1 + measureFields(body, fields.lengthPrefix);
-  case kRsvpFec:
-    return 1 + measureFields(body, lengthU32, lengthU32);
-  case kMldpFec:
-    return 1 + measureFields(body, fields.lengthAddress, lengthU32);
-  case kPrefixAlgoFec:
-    return 1 + measureFields(body, fields.lengthPrefix, lengthU32);
-  default:
-    return kInvalidLength;
-  }
+// The body of an unknown type; its count is the invalid one.
+const LabeledField* fecBody(const unsigned char* p, const LabeledField* const (&bodies)[4]) {
+  return p[0] < std::size(bodies) ? bodies[p[0]] : nullptr;
 }
 
 } // namespace
 
+constexpr FieldVariants kMplsFwdEqvClassVariants{
+    "the FEC type (byte 0), the body starting at byte 1 (any other type is invalid)",
+    std::size(kFecBodies), [](unsigned type) { return kFecBodies[type]; }};
+constexpr FieldVariants kMplsFwdEqvClassOptimizedVariants{
+    "the FEC type (byte 0), the body starting at byte 1 (any other type is invalid)",
+    std::size(kFecBodiesOptimized), [](unsigned type) { return kFecBodiesOptimized[type]; }};
+
 unsigned formatMplsFwdEqvClass(const unsigned char* p, std::ostream& os) {
-  return formatFec(p, os, kPlainFields);
+  const LabeledField* body = fecBody(p, kFecBodies);
+  return body ? formatFields(body, p, os, 1) : kInvalidLength;
 }
-unsigned lengthMplsFwdEqvClass(const unsigned char* p) { return measureFec(p, kPlainFields); }
+unsigned lengthMplsFwdEqvClass(const unsigned char* p) {
+  const LabeledField* body = fecBody(p, kFecBodies);
+  return body ? measureFields(body, p, 1) : kInvalidLength;
+}
 
 unsigned formatMplsFwdEqvClassOptimized(const unsigned char* p, std::ostream& os) {
-  return formatFec(p, os, kOptimizedFields);
+  const LabeledField* body = fecBody(p, kFecBodiesOptimized);
+  return body ? formatFields(body, p, os, 1) : kInvalidLength;
 }
 unsigned lengthMplsFwdEqvClassOptimized(const unsigned char* p) {
-  return measureFec(p, kOptimizedFields);
+  const LabeledField* body = fecBody(p, kFecBodiesOptimized);
+  return body ? measureFields(body, p, 1) : kInvalidLength;
 }
 
 } // namespace Orvane

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
@@ -19,6 +20,9 @@ namespace Orvane {
 /// "FM": the FEC with plain generic addresses and prefixes. Returns 19, 9, 26, 23 by
 /// type, or 0xFFFFFFFF for a type above 3.
 ORVANE_API unsigned formatMplsFwdEqvClass(const unsigned char* p, std::ostream& os);
+/// The bodies of "FM" and "FMO" by FEC type, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kMplsFwdEqvClassVariants;
+ORVANE_API extern const FieldVariants kMplsFwdEqvClassOptimizedVariants;
 /// As formatMplsFwdEqvClass returns, without printing.
 ORVANE_API unsigned lengthMplsFwdEqvClass(const unsigned char* p);
 

@@ -49,33 +49,33 @@ void printMplsLabel(unsigned label, TextRun& text) {
 } // namespace
 
 std::ostream& formatMplsLabel(unsigned int label, std::ostream& os) {
-  TextRun text(os);
-  printMplsLabel(label, text);
-  return text.flush();
+  return printThroughRun(os, [label](TextRun& text) { printMplsLabel(label, text); });
 }
 
-unsigned formatMplsLabel(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
+unsigned appendMplsLabel(const unsigned char* p, TextRun& text) {
   text << "MplsLabel(";
   printMplsLabel(load<uint32_t>(p), text);
   text << ")";
-  text.flush();
   return lengthMplsLabel(p);
+}
+unsigned formatMplsLabel(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMplsLabel>(p, os);
 }
 unsigned lengthMplsLabel(const unsigned char*) { return 4; }
 
-unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os) {
+unsigned appendMplsLabelOperation(const unsigned char* p, TextRun& text) {
   const unsigned count = p[1];
   if (count > kMaxStackLabels) return kInvalidLength;
   const char* operation = labelOperationName(p[0]);
   if (!operation) return kInvalidLength;
-  TextRun text(os);
   text << operation << "[";
   for (unsigned i = 0; i < count; ++i)
     printMplsLabel(load<uint32_t>(p + 2 + 4 * i), i ? text << ", " : text);
   text << "]";
-  text.flush();
   return lengthMplsLabelOperation(p);
+}
+unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMplsLabelOperation>(p, os);
 }
 unsigned lengthMplsLabelOperation(const unsigned char* p) {
   const unsigned count = p[1];
@@ -91,16 +91,17 @@ unsigned formatEvpnLabel(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthEvpnLabel(const unsigned char*) { return 4; }
 
-unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os) {
+unsigned appendMplsRouterId(const unsigned char* p, TextRun& text) {
   if (p[0] == kSystemIdRouterKind) {
-    formatIsisSystemId(p + 1, os);
+    appendIsisSystemId(p + 1, text);
   } else {
-    TextRun text(os);
     printIpv4Bytes(text, p + 1);
     text.join(":").number(static_cast<unsigned>(p[5] << 8 | p[6]));
-    text.flush();
   }
   return lengthMplsRouterId(p);
+}
+unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMplsRouterId>(p, os);
 }
 unsigned lengthMplsRouterId(const unsigned char*) { return 7; }
 
@@ -115,9 +116,12 @@ unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthGlobalFecId(const unsigned char*) { return 10; }
 
+constexpr LabeledField kLfibViaKeyRows[] = {
+    {"(", &kU8FixedField}, {",", &kU32FixedField}, {",", &kU8FixedField}, {")"}};
+constexpr FieldTable kLfibViaKeyFields{kLfibViaKeyRows};
 unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU8, ",", formatU32, ",", formatU8, ")");
+  return formatTable<kLfibViaKeyRows>(p, os);
 }
-unsigned lengthLfibViaKey(const unsigned char*) { return 6; }
+unsigned lengthLfibViaKey(const unsigned char* p) { return lengthTable<kLfibViaKeyRows>(p); }
 
 } // namespace Orvane

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
 #include <ostream>
@@ -44,12 +45,19 @@ unsigned appendEvpnLabel(const unsigned char* p, TextRun& text);
 ORVANE_API unsigned formatMplsRouterId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthMplsRouterId(const unsigned char* p); ///< 7
 
+/// The append forms (TextRun.h) of "ML", "LO" and "MRTR".
+unsigned appendMplsLabel(const unsigned char* p, TextRun& text);
+unsigned appendMplsLabelOperation(const unsigned char* p, TextRun& text);
+unsigned appendMplsRouterId(const unsigned char* p, TextRun& text);
+
 /// "GFID": u64 fecId, u16 tableId. Prints "fecId: " fecId ", tableId: " and then the low
 /// 16 bits of the fecId, not the stored tableId: that is the established output and is
 /// kept. Returns 10.
 ORVANE_API unsigned formatGlobalFecId(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthGlobalFecId(const unsigned char* p); ///< 10
 
+/// The table of "LVK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kLfibViaKeyFields;
 /// "LVK": "(" u8 "," u32 "," u8 ")" through the host's base formatters. Returns 6.
 ORVANE_API unsigned formatLfibViaKey(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthLfibViaKey(const unsigned char* p); ///< 6

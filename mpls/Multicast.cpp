@@ -19,14 +19,6 @@ namespace {
 // Flag positions that together decide the trailing "E".
 constexpr unsigned kFlagW = 1, kFlagS = 2;
 
-// Every multicast key is "(" first ", " second ")" with the two parts alike.
-template <AppendPtr appendPart> unsigned formatPair(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", appendPart, ", ", appendPart, ")");
-}
-template <LengthPtr lengthPart> unsigned measurePair(const unsigned char* p) {
-  return measureFields(p, lengthPart, lengthPart);
-}
-
 // Join states: 0, 1, then every other value.
 const char* joinStateName(const unsigned char* p, const char* const (&names)[3]) {
   const uint32_t state = load<uint32_t>(p);
@@ -35,27 +27,34 @@ const char* joinStateName(const unsigned char* p, const char* const (&names)[3])
 
 } // namespace
 
+constexpr LabeledField kMRouteKeyRows[] = {
+    {"(", &kIpGenAddrField}, {", ", &kIpGenAddrField}, {")"}};
+constexpr FieldTable kMRouteKeyFields{kMRouteKeyRows};
 unsigned formatMRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenAddr>(p, os);
+  return formatTable<kMRouteKeyRows>(p, os);
 }
-unsigned lengthMRouteKey(const unsigned char* p) { return measurePair<lengthIpGenAddr>(p); }
+unsigned lengthMRouteKey(const unsigned char* p) { return lengthTable<kMRouteKeyRows>(p); }
 
+constexpr LabeledField kMRouteKeyOptimizedRows[] = {
+    {"(", &kIpGenAddrOptField}, {", ", &kIpGenAddrOptField}, {")"}};
+constexpr FieldTable kMRouteKeyOptimizedFields{kMRouteKeyOptimizedRows};
 unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenAddrOpt>(p, os);
+  return formatTable<kMRouteKeyOptimizedRows>(p, os);
 }
 unsigned lengthMRouteKeyOptimized(const unsigned char* p) {
-  return measurePair<lengthIpGenAddrOpt>(p);
+  return lengthTable<kMRouteKeyOptimizedRows>(p);
 }
 
-unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
-  // mRouteFlags may be replaced by anyone holding the exported symbol, so it is read
-  // afresh at every step rather than cached.
-  TextRun text(os);
+// mRouteFlags may be replaced by anyone holding the exported symbol, so it is read
+// afresh at every step rather than cached.
+unsigned appendMRouteFlags(const unsigned char* p, TextRun& text) {
   for (unsigned i = 0; i < std::strlen(mRouteFlags); ++i)
     if (p[i]) text << std::string_view(&mRouteFlags[i], 1);
   if (!p[kFlagW] && !p[kFlagS]) text << "E";
-  text.flush();
   return lengthMRouteFlags(p);
+}
+unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os) {
+  return formatThroughRun<appendMRouteFlags>(p, os);
 }
 unsigned lengthMRouteFlags(const unsigned char*) {
   return static_cast<unsigned>(std::strlen(mRouteFlags));
@@ -75,21 +74,32 @@ unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::ostream& os) 
 }
 unsigned lengthMRouteIntfRptJoinState(const unsigned char*) { return 4; }
 
+constexpr LabeledField kMfibRouteKeyRows[] = {
+    {"(", &kIpPrefixField}, {", ", &kIpPrefixField}, {")"}};
+constexpr FieldTable kMfibRouteKeyFields{kMfibRouteKeyRows};
 unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpPrefix>(p, os);
+  return formatTable<kMfibRouteKeyRows>(p, os);
 }
-unsigned lengthMfibRouteKey(const unsigned char* p) { return measurePair<lengthIpPrefix>(p); }
+unsigned lengthMfibRouteKey(const unsigned char* p) { return lengthTable<kMfibRouteKeyRows>(p); }
 
+constexpr LabeledField kMfibGenRouteKeyRows[] = {
+    {"(", &kIpGenPrefixField}, {", ", &kIpGenPrefixField}, {")"}};
+constexpr FieldTable kMfibGenRouteKeyFields{kMfibGenRouteKeyRows};
 unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenPrefix>(p, os);
+  return formatTable<kMfibGenRouteKeyRows>(p, os);
 }
-unsigned lengthMfibGenRouteKey(const unsigned char* p) { return measurePair<lengthIpGenPrefix>(p); }
+unsigned lengthMfibGenRouteKey(const unsigned char* p) {
+  return lengthTable<kMfibGenRouteKeyRows>(p);
+}
 
+constexpr LabeledField kMfibGenRouteKeyOptimizedRows[] = {
+    {"(", &kIpGenPrefixOptimizedField}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
+constexpr FieldTable kMfibGenRouteKeyOptimizedFields{kMfibGenRouteKeyOptimizedRows};
 unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatPair<appendIpGenPrefixOptimized>(p, os);
+  return formatTable<kMfibGenRouteKeyOptimizedRows>(p, os);
 }
 unsigned lengthMfibGenRouteKeyOptimized(const unsigned char* p) {
-  return measurePair<lengthIpGenPrefixOptimized>(p);
+  return lengthTable<kMfibGenRouteKeyOptimizedRows>(p);
 }
 
 unsigned formatMulticastTunnelType(const unsigned char* p, std::ostream& os) {

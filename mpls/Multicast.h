@@ -8,6 +8,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 #include "registry/NameTable.h"
 
 #include <ostream>
@@ -28,11 +29,15 @@ inline constexpr std::pair<unsigned, const char*> kMulticastTunnelTypeNameEntrie
 /// Multicast tunnel type names by code; built at load time (KaMessageFormatter.cpp).
 extern const NameTable multicastTunnelTypeNames;
 
+/// The table of "MK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kMRouteKeyFields;
 /// "MK": "(" generic address ", " generic address ")". Returns 42.
 ORVANE_API unsigned formatMRouteKey(const unsigned char* p, std::ostream& os);
 /// 42.
 ORVANE_API unsigned lengthMRouteKey(const unsigned char* p);
 
+/// The table of "MKO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kMRouteKeyOptimizedFields;
 /// "MKO": as "MK" with Opt addresses.
 ORVANE_API unsigned formatMRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Opt address sizes (5, 17 or 1 each) added.
@@ -45,6 +50,8 @@ ORVANE_API unsigned lengthMRouteKeyOptimized(const unsigned char* p);
 ORVANE_API unsigned formatMRouteFlags(const unsigned char* p, std::ostream& os);
 /// The length of the string mRouteFlags points at (13 initially).
 ORVANE_API unsigned lengthMRouteFlags(const unsigned char* p);
+/// The append form (TextRun.h) of "MF".
+unsigned appendMRouteFlags(const unsigned char* p, TextRun& text);
 
 /// "MIJ": u32 join state: 0 "noInfo", 1 "prunePending", any other "joined". Returns 4.
 ORVANE_API unsigned formatMRouteIntfJoinState(const unsigned char* p, std::ostream& os);
@@ -57,17 +64,23 @@ ORVANE_API unsigned formatMRouteIntfRptJoinState(const unsigned char* p, std::os
 /// 4.
 ORVANE_API unsigned lengthMRouteIntfRptJoinState(const unsigned char* p);
 
+/// The table of "MFK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kMfibRouteKeyFields;
 /// "MFK": "(" IPv4 "/" u8 ", " IPv4 "/" u8 ")", the lengths in decimal:
 /// (10.0.0.1/32, 239.1.1.1/32). Returns 10.
 ORVANE_API unsigned formatMfibRouteKey(const unsigned char* p, std::ostream& os);
 /// 10.
 ORVANE_API unsigned lengthMfibRouteKey(const unsigned char* p);
 
+/// The table of "MFGK" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kMfibGenRouteKeyFields;
 /// "MFGK": "(" generic prefix ", " generic prefix ")". Returns 36.
 ORVANE_API unsigned formatMfibGenRouteKey(const unsigned char* p, std::ostream& os);
 /// 36.
 ORVANE_API unsigned lengthMfibGenRouteKey(const unsigned char* p);
 
+/// The table of "MFGKO" (FieldKind.h): its fields in order, then its closing text.
+ORVANE_API extern const FieldTable kMfibGenRouteKeyOptimizedFields;
 /// "MFGKO": as "MFGK" with Optimized prefixes.
 ORVANE_API unsigned formatMfibGenRouteKeyOptimized(const unsigned char* p, std::ostream& os);
 /// The two Optimized prefix sizes added, in wrapping 32-bit arithmetic.

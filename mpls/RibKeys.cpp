@@ -6,41 +6,30 @@
 #include "registry/HostInterface.h"
 
 namespace Orvane {
-namespace {
-
-template <AppendPtr appendPrefix>
-unsigned formatRibRoute(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatU32, ", ", appendPrefix, ")");
-}
-
-template <AppendPtr appendPrefix>
-unsigned formatUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "vrf:", formatU16, ", ipAddr:", appendPrefix);
-}
-
-} // namespace
-
+constexpr LabeledField kRibRouteKeyRows[] = {{"(", &kU32Field}, {", ", &kIpGenPrefixField}, {")"}};
+constexpr FieldTable kRibRouteKeyFields{kRibRouteKeyRows};
 unsigned formatRibRouteKey(const unsigned char* p, std::ostream& os) {
-  return formatRibRoute<appendIpGenPrefix>(p, os);
+  return formatTable<kRibRouteKeyRows>(p, os);
 }
-unsigned lengthRibRouteKey(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthIpGenPrefix);
-}
+unsigned lengthRibRouteKey(const unsigned char* p) { return lengthTable<kRibRouteKeyRows>(p); }
 
+constexpr LabeledField kRibRouteKeyOptimizedRows[] = {
+    {"(", &kU32Field}, {", ", &kIpGenPrefixOptimizedField}, {")"}};
+constexpr FieldTable kRibRouteKeyOptimizedFields{kRibRouteKeyOptimizedRows};
 unsigned formatRibRouteKeyOptimized(const unsigned char* p, std::ostream& os) {
-  return formatRibRoute<appendIpGenPrefixOptimized>(p, os);
+  return formatTable<kRibRouteKeyOptimizedRows>(p, os);
 }
 unsigned lengthRibRouteKeyOptimized(const unsigned char* p) {
-  return measureFields(p, lengthU32, lengthIpGenPrefixOptimized);
+  return lengthTable<kRibRouteKeyOptimizedRows>(p);
 }
 
+constexpr LabeledField kRibViaKeyRows[] = {
+    {"(id:", &kU64Field}, {", vrfId:", &kU32Field}, {", proto:", &kRoutingProtocolField}, {")"}};
+constexpr FieldTable kRibViaKeyFields{kRibViaKeyRows};
 unsigned formatRibViaKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(id:", formatU64, ", vrfId:", formatU32,
-                      ", proto:", formatRoutingProtocol, ")");
+  return formatTable<kRibViaKeyRows>(p, os);
 }
-unsigned lengthRibViaKey(const unsigned char* p) {
-  return measureFields(p, lengthU64, lengthU32, lengthRoutingProtocol);
-}
+unsigned lengthRibViaKey(const unsigned char* p) { return lengthTable<kRibViaKeyRows>(p); }
 
 unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
   printName(os, routingProtocolNames, p[0]);
@@ -48,32 +37,39 @@ unsigned formatRoutingProtocol(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthRoutingProtocol(const unsigned char*) { return 1; }
 
+constexpr LabeledField kAfProtoRows[] = {{"(", &kAfField}, {",", &kRoutingProtocolField}, {")"}};
+constexpr FieldTable kAfProtoFields{kAfProtoRows};
 unsigned formatAfProto(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatAf, ",", formatRoutingProtocol, ")");
+  return formatTable<kAfProtoRows>(p, os);
 }
-unsigned lengthAfProto(const unsigned char* p) {
-  return measureFields(p, lengthAf, lengthRoutingProtocol);
-}
+unsigned lengthAfProto(const unsigned char* p) { return lengthTable<kAfProtoRows>(p); }
 
+constexpr LabeledField kAfProtoVrfIdRows[] = {
+    {"(", &kAfField}, {",", &kRoutingProtocolField}, {",", &kU32Field}, {")"}};
+constexpr FieldTable kAfProtoVrfIdFields{kAfProtoVrfIdRows};
 unsigned formatAfProtoVrfId(const unsigned char* p, std::ostream& os) {
-  return formatFields(p, os, "(", formatAf, ",", formatRoutingProtocol, ",", formatU32, ")");
+  return formatTable<kAfProtoVrfIdRows>(p, os);
 }
-unsigned lengthAfProtoVrfId(const unsigned char* p) {
-  return measureFields(p, lengthAf, lengthRoutingProtocol, lengthU32);
-}
+unsigned lengthAfProtoVrfId(const unsigned char* p) { return lengthTable<kAfProtoVrfIdRows>(p); }
 
+constexpr LabeledField kIpGenUcastKeyRefRows[] = {
+    {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixField}, {""}};
+constexpr FieldTable kIpGenUcastKeyRefFields{kIpGenUcastKeyRefRows};
 unsigned formatIpGenUcastKeyRef(const unsigned char* p, std::ostream& os) {
-  return formatUcastKeyRef<appendIpGenPrefix>(p, os);
+  return formatTable<kIpGenUcastKeyRefRows>(p, os);
 }
 unsigned lengthIpGenUcastKeyRef(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenPrefix);
+  return lengthTable<kIpGenUcastKeyRefRows>(p);
 }
 
+constexpr LabeledField kIpGenUcastKeyRefOptimizedRows[] = {
+    {"vrf:", &kU16Field}, {", ipAddr:", &kIpGenPrefixOptimizedField}, {""}};
+constexpr FieldTable kIpGenUcastKeyRefOptimizedFields{kIpGenUcastKeyRefOptimizedRows};
 unsigned formatIpGenUcastKeyRefOptimized(const unsigned char* p, std::ostream& os) {
-  return formatUcastKeyRef<appendIpGenPrefixOptimized>(p, os);
+  return formatTable<kIpGenUcastKeyRefOptimizedRows>(p, os);
 }
 unsigned lengthIpGenUcastKeyRefOptimized(const unsigned char* p) {
-  return measureFields(p, lengthU16, lengthIpGenPrefixOptimized);
+  return lengthTable<kIpGenUcastKeyRefOptimizedRows>(p);
 }
 
 } // namespace Orvane

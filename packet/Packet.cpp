@@ -1,8 +1,8 @@
 #include "packet/Packet.h"
 
+#include "address/HexGroups.h"
 #include "packet/KanetPktTraceFormatterWrapper.h"
 #include "registry/Bytes.h"
-#include "registry/HexDigits.h"
 #include "registry/HostInterface.h"
 
 #include <algorithm>
@@ -28,9 +28,8 @@ void printVlanTag(uint16_t tpid, uint16_t tci, std::ostream& os) {
 // leave it: decimal base, fill '0'.
 void printHexBytes(const unsigned char* bytes, unsigned count, std::ostream& os) {
   char text[2 * 255];
-  char* out = text;
-  for (unsigned i = 0; i < count; ++i) out = writeHexByte(bytes[i], out);
-  os.write(text, out - text);
+  const int n = static_cast<int>(count);
+  os.write(text, writeHexGroups(bytes, n, n, ' ', text) - text); // one group: no separator
   os.fill('0');
   os.setf(std::ios::dec, std::ios::basefield);
 }

@@ -1,88 +1,102 @@
-// Walking the fields of a composite value.
+// Walking the table of a composite value (FieldKind.h).
 //
-// A composite key is a frame of literal text around fields printed by existing
-// formatters. Each field starts at the running sum of the counts the earlier fields
-// returned, and the composite returns the final sum. formatFields() and measureFields()
-// do that walk so keys are written as a list instead of hand-rolled offset sums:
+// Each field starts at the running sum of the counts the earlier fields returned, and
+// the walk returns the final sum. formatFields() and measureFields() take the same table
+// and advance by the same fields, so a key's text and its size come from one list;
+// formatTable and lengthTable are a table's two functions:
 //
-//   unsigned formatRibViaKey(const unsigned char* p, std::ostream& os) {
-//     return formatFields(p, os, "(id:", formatU64, ", vrfId:", formatU32, ...);
+//   unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
+//     return formatTable<kMacVlanPairRows>(p, os);
+//   }
+//   unsigned lengthMacVlanPair(const unsigned char* p) {
+//     return lengthTable<kMacVlanPairRows>(p);
 //   }
 //
-// Literal text and the fields that have an append form (TextRun.h) gather into one
-// insertion where that prints exactly what separate insertions would; a field printed
-// by a format function on the stream (the host's base formatters) is an insertion of
-// its own.
+// Literals under a caller's width, one rule for every table: a label joins the text
+// pending in the run (TextRun) unchecked, and the run is inserted with `<<` when a field
+// needs the stream (a field printed on the stream, or one whose text cannot join because
+// the stream has a width) and at the end. A width the caller set therefore pads the
+// text gathered up to the first field that needs the stream, the label and what the key
+// printed before it together, as one insertion: the same text whether the key prints a
+// label or a caller's run holds it.
+//
+// The rule shows where a field prints nothing (an Optimized prefix of tag 0 and length
+// 255) between two labels: under a width, "MFGKO" pads "(" when its first prefix prints
+// and "(, " when it prints nothing, the text pending when the first field text arrives.
+// tests/vectors/stream-states.digests freezes what the rule gives for the demo values and those
+// keys in every stream state a caller may leave (bench/compare_stream_states --freeze
+// writes it; StreamStates.FrozenVectors checks it), so that it cannot drift unseen.
 //
 // Sums are unsigned 32-bit and wrap; a field after an invalid one (0xFFFFFFFF) is read
 // where at() puts it, and the wrapped total is returned unrepaired.
 #pragma once
 
 #include "registry/Bytes.h"
-#include "registry/Formatter.h"
+#include "registry/FieldKind.h"
 #include "registry/TextRun.h"
 
+#include <cstddef>
 #include <ostream>
-#include <string_view>
-#include <tuple>
-#include <type_traits>
 
 namespace Orvane {
+
+/// Prints each field of `fields` (a table ending in an entry without a kind): its label,
+/// then the field at the running offset, which begins at `start`; then the closing
+/// label. The text stays pending in `text` for the caller to continue and flush.
+/// Returns the final offset.
+unsigned printFields(const LabeledField* fields, const unsigned char* p, unsigned start,
+                     TextRun& text);
+
+/// printFields() on a run of its own, inserted before returning.
+unsigned formatFields(const LabeledField* fields, const unsigned char* p, std::ostream& os,
+                      unsigned start = 0);
+
+/// The final offset of the same walk, printing nothing.
+unsigned measureFields(const LabeledField* fields, const unsigned char* p, unsigned start = 0);
+
 namespace detail {
 
-// Whether the run is inserted right after a literal followed by `Rest`: at the end, and
-// before a field that prints on the stream itself.
-template <class... Rest> constexpr bool flushesNext() {
-  if constexpr (sizeof...(Rest) == 0)
-    return true;
-  else
-    return std::is_convertible_v<const std::tuple_element_t<0, std::tuple<Rest...>>&, FormatPtr>;
-}
-
-template <class Part, class... Rest>
-void formatParts(const unsigned char* p, TextRun& text, unsigned& off, const Part& part,
-                 const Rest&... rest) {
-  if constexpr (std::is_array_v<Part>) {
-    const std::string_view literal(part, std::extent_v<Part> - 1);
-    if constexpr (flushesNext<Rest...>())
-      text.flushWith(literal);
-    else
-      text.join(literal);
-  } else if constexpr (std::is_convertible_v<const Part&, AppendPtr>) {
-    off += static_cast<AppendPtr>(part)(at(p, off), text);
+// The walks of printFields() and measureFields() unrolled over a table known when
+// compiling: each field's functions are called directly, each label is a constant.
+template <const LabeledField* Fields, std::size_t I = 0>
+unsigned printTable(const unsigned char* p, unsigned off, TextRun& text) {
+  constexpr LabeledField field = Fields[I];
+  if constexpr (field.kind == nullptr) {
+    text << field.label;
+    return off;
   } else {
-    off += static_cast<FormatPtr>(part)(at(p, off), text.flush());
+    constexpr FieldKind kind = *field.kind;
+    if constexpr (kind.append != nullptr)
+      off += kind.append(at(p, off), text << field.label);
+    else
+      off += kind.format(at(p, off), text.flushWith(field.label));
+    return printTable<Fields, I + 1>(p, off, text);
   }
-  if constexpr (sizeof...(Rest) > 0) formatParts(p, text, off, rest...);
 }
 
-inline void measurePart(const unsigned char* p, unsigned& off, LengthPtr field) {
-  off += field(at(p, off));
-}
-inline void measurePart(const unsigned char*, unsigned& off, unsigned fixedSize) {
-  off += fixedSize;
+template <const LabeledField* Fields, std::size_t I = 0>
+unsigned measureTable(const unsigned char* p, unsigned off) {
+  constexpr const FieldKind* kind = Fields[I].kind;
+  if constexpr (kind == nullptr)
+    return off;
+  else
+    return measureTable<Fields, I + 1>(p, off + kind->length(at(p, off)));
 }
 
 } // namespace detail
 
-/// Prints `parts` in order: a string literal is written as it is, a format or append
-/// function prints the field at the running offset and advances it. Returns the final
-/// offset.
-template <class... Parts>
-unsigned formatFields(const unsigned char* p, std::ostream& os, const Parts&... parts) {
-  unsigned off = 0;
+/// The format and length functions of the table `Fields`, the same walks as
+/// formatFields() and measureFields() unrolled: what a composite's exported functions
+/// return, and a kind's functions when a key is a field of another.
+template <const LabeledField* Fields>
+unsigned formatTable(const unsigned char* p, std::ostream& os) {
   TextRun text(os);
-  detail::formatParts(p, text, off, parts...);
+  const unsigned off = detail::printTable<Fields>(p, 0, text);
   text.flush();
   return off;
 }
-
-/// Sums `parts` in order: a length function measures the field at the running offset,
-/// an unsigned is a fixed field size. Returns the total.
-template <class... Parts> unsigned measureFields(const unsigned char* p, const Parts&... parts) {
-  unsigned off = 0;
-  (detail::measurePart(p, off, parts), ...);
-  return off;
+template <const LabeledField* Fields> unsigned lengthTable(const unsigned char* p) {
+  return detail::measureTable<Fields>(p, 0);
 }
 
 } // namespace Orvane

@@ -33,6 +33,7 @@
 #include <cstring>
 #include <ostream>
 #include <string_view>
+#include <type_traits>
 
 namespace Orvane {
 
@@ -86,9 +87,10 @@ public:
     return *this;
   }
 
-  /// join(piece) and then flush(), without copying `piece` when nothing is pending.
+  /// `*this << piece` and then flush(), without copying `piece` when nothing is pending:
+  /// the pending text and `piece` are one insertion.
   std::ostream& flushWith(std::string_view piece) {
-    if (size_ > 0) return join(piece).flush();
+    if (size_ > 0 || piece.empty()) return (*this << piece).flush();
     plainDecimal_ = kNotChecked;
     return os_ << piece;
   }
@@ -128,10 +130,20 @@ private:
   char text_[kCapacity];
 };
 
-/// Prints the text of a field that is an insertion of its own on a stream, and joins
-/// it (TextRun::join) within a run: code written once for both takes either.
-inline void printField(std::ostream& os, std::string_view text) { os << text; }
-inline void printField(TextRun& run, std::string_view text) { run.join(text); }
+/// The stream form of a printer that gathers its text into a TextRun: `print(text)` on a
+/// run of its own over `os`, inserted before returning. Returns what `print` returns (a
+/// count), or `os` when it returns nothing.
+template <class Print> decltype(auto) printThroughRun(std::ostream& os, Print print) {
+  TextRun text(os);
+  if constexpr (std::is_void_v<std::invoke_result_t<Print&, TextRun&>>) {
+    print(text);
+    return text.flush();
+  } else {
+    auto result = print(text);
+    text.flush();
+    return result;
+  }
+}
 
 /// A formatter's append form: adds the text of the value at `p` to `text` (through
 /// join() and number(), so that it prints as the format form would) and returns the
@@ -141,10 +153,7 @@ using AppendPtr = unsigned (*)(const unsigned char* p, TextRun& text);
 /// The format form of an append function: the value's text on a run of its own,
 /// inserted before returning.
 template <AppendPtr Append> unsigned formatThroughRun(const unsigned char* p, std::ostream& os) {
-  TextRun text(os);
-  const unsigned count = Append(p, text);
-  text.flush();
-  return count;
+  return printThroughRun(os, [p](TextRun& text) { return Append(p, text); });
 }
 
 } // namespace Orvane

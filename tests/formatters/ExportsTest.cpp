@@ -4,6 +4,7 @@
 #include "bgp/AfiSafi.h"
 #include "bgp/EvpnL2Attrs.h"
 #include "bgp/NextHop.h"
+#include "bgp/NlriType.h"
 #include "mpls/Label.h"
 #include "mpls/Multicast.h"
 #include "tests/support/FormatCase.h"

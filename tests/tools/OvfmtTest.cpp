@@ -50,6 +50,29 @@ TEST(Ovfmt, UsageAndPluginErrorsExitTwo) {
   });
 }
 
+// The entry docs/ids.md shows for `id`: from its heading to the next anchor.
+std::string idReferenceEntry(const std::string& id) {
+  std::ifstream in(SOURCE_DIR "/docs/ids.md");
+  std::stringstream all;
+  all << in.rdbuf();
+  const std::string text = all.str();
+  const std::size_t start = text.find("### " + id + ":");
+  if (start == std::string::npos) return "";
+  return text.substr(start, text.find("\n<a id=", start) - start);
+}
+
+// --describe prints the committed reference of the id, from the plug-in ovfmt loads.
+TEST(Ovfmt, Describe) {
+  expectRuns({
+      {{"--describe", "MVP"}, "", idReferenceEntry("MVP"), "", 0},
+      {{"--describe", "BNH"}, "", idReferenceEntry("BNH"), "", 0},
+      {{"--describe", "u32"}, "", "", "no loaded plug-in describes u32", 1},
+      {{"--describe", "NOPE"}, "", "", "no loaded plug-in describes NOPE", 1},
+      {{"--describe"}, "", "", "--describe needs an id", 2},
+      {{"--describe", "MVP", "--list"}, "", "", "only one of", 2},
+  });
+}
+
 TEST(Ovfmt, PluginChoice) {
   const std::string plugin = PLUGIN_PATH, dir = plugin.substr(0, plugin.rfind('/'));
   expectRuns({

@@ -6,6 +6,7 @@
 #include "host/PluginLoader.h"
 #include "host/Registry.h"
 #include "tools/ovfmt/Batch.h"
+#include "tools/ovfmt/Describe.h"
 #include "tools/ovfmt/RecordPrinter.h"
 #include "tools/ovfmt/Trace.h"
 
@@ -30,7 +31,7 @@ const char kUsage[] =
     "Usage: ovfmt [--plugin PATH]... [--counts | --sep TEXT | --template TEXT] ID[,ID...] HEX...\n"
     "  or:  ovfmt [--plugin PATH]... [--counts | --sep TEXT | --template TEXT] [--jobs N]\n"
     "             --batch [FILE|-]\n"
-    "  or:  ovfmt [--plugin PATH]... --list\n"
+    "  or:  ovfmt [--plugin PATH]... --list | --describe ID\n"
     "\n"
     "Formats binary trace values through the registered formatter plug-ins.\n"
     "  ID HEX...        format one value: its type id, then its bytes as pairs of hex digits\n"
@@ -49,6 +50,7 @@ const char kUsage[] =
     "  --jobs N         format a batch on N threads (default 1); the output is the same\n"
     "  --list           print every plug-in id, sorted, then a blank line and the host's\n"
     "                   base-type ids (u8 u16 u32 u64 x16 x32 bool str)\n"
+    "  --describe ID    print the reference of a plug-in id: fields, length, an example\n"
     "  --plugin PATH    load this plug-in (a .so, or a directory of them) instead of the\n"
     "                   default: every .so in $OVFMT_PLUGIN_DIR, else the one installed\n"
     "                   beside ovfmt\n"
@@ -59,6 +61,7 @@ const char kUsage[] =
 struct Options {
   std::vector<std::string> plugins;
   bool list = false;
+  std::optional<std::string> describe; // the --describe id
   bool batch = false;
   std::string batchFile = "-";
   unsigned jobs = 1;
@@ -107,9 +110,10 @@ bool parseJobs(const char* text, unsigned& jobs) {
 
 // Checks the options that only make sense together; returns a usage problem or "".
 std::string conflicts(const Options& options) {
-  const int modes = options.list + options.batch + !options.record.empty();
+  const int modes =
+      options.list + options.batch + !options.record.empty() + options.describe.has_value();
   if (modes == 0) return "nothing to do: give ID HEX..., --batch or --list";
-  if (modes > 1) return "give only one of ID HEX..., --batch and --list";
+  if (modes > 1) return "give only one of ID HEX..., --batch, --list and --describe";
   if (options.separatorGiven && options.layout)
     return "give --sep or --template, not both: the template holds the text between arguments";
   if (options.print.counts && (options.separatorGiven || options.layout))
@@ -150,6 +154,11 @@ int parse(int argc, char** argv, Options& options) {
       options.plugins.push_back(path);
     } else if (arg == "--counts") {
       options.print.counts = true;
+    } else if (arg == "--describe") {
+      if (const char* id = value())
+        options.describe = id;
+      else
+        return usageError("--describe needs an id");
     } else if (arg == "--list") {
       options.list = true;
     } else if (arg == "--sep") {
@@ -242,6 +251,7 @@ int main(int argc, char** argv) {
   if (!loadPlugins(options)) return kExitUsage;
   host::registerBaseTypes();
 
+  if (options.describe) return ovfmt::describe(*options.describe, std::cout, std::cerr);
   if (options.list) {
     listIds();
     return kExitOk;
