@@ -42,6 +42,8 @@ TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
       // In a batch, columns count from the start of the line.
       {{"--batch"}, "  I 0g\n", "", "<stdin>:1: bad hex: 'g' at column 6\n", 1},
       {{"--batch"}, "I\t01 0X\n", "", "bad hex: 'X' at column 7 (drop the 0x", 1},
+      // The bytes parsed before bad hex are no part of the next record's zero guard.
+      {{"--counts", "--batch"}, "I 01 02 03 0g\nI\n", "I\t4\t4\t0.0.0.0\n", "<stdin>:2:", 1},
   });
 }
 

@@ -11,13 +11,15 @@ namespace Orvane::ovfmt {
 namespace {
 
 // Parses `hex` straight into the walker's buffer as the record. On bad hex returns
-// false, sets `error` (see parseHexInto) and leaves an empty record.
+// false, sets `error` (see parseHexInto) and leaves an empty record, the bytes parsed
+// before the error zeroed again: they lie in the guard of the next record.
 bool loadHex(decoding::RecordWalker& walker, std::string_view hex, std::size_t firstColumn,
              std::string& error) {
   std::size_t written = 0;
   const bool parsed =
       parseHexInto(hex, walker.prepare(maxHexBytes(hex)), written, error, firstColumn);
-  walker.place(parsed ? written : 0);
+  walker.place(written);
+  if (!parsed) walker.place(0);
   return parsed;
 }
 
