@@ -2,12 +2,16 @@
 // escaped control characters, batch lines that say where they come from, hex dumps,
 // plug-ins beside the built-in one, and exit statuses that tell the truth.
 #include "tests/support/RunOvfmt.h"
+#include "tools/ovfmt/Options.h"
 #include "tools/ovfmt/Plugins.h"
 #include "tools/ovfmt/Suggest.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <regex>
+#include <set>
+#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -28,8 +32,67 @@ TEST(OvfmtConventions, OptionsAnywhereBeforeDoubleDash) {
   const auto help = runOvfmt({"I", "-h"});
   EXPECT_EQ(help.status, 0);
   EXPECT_TRUE(help.out.starts_with("Usage: ovfmt [OPTION]... ID[,ID...] HEX...\n")) << help.out;
-  for (const char* option : {"--batch", "--hexdump", "--keep-lines", "-n, --line-number"})
-    EXPECT_NE(help.out.find(option), std::string::npos) << option;
+}
+
+// What help2man turns into the manual page: lines that fit a terminal, and every option
+// an entry of its own at the start of a line, its short form a letter.
+TEST(OvfmtConventions, HelpLinesFitAndEachOptionStandsApart) {
+  const std::string help = runOvfmt({"--help"}).out;
+  std::istringstream lines(help);
+  std::set<std::string> entries;
+  const std::regex entry(R"(^  (?:-[A-Za-z], |    )--([a-z-]+)(?:=[A-Z]+)?(?:  |$))");
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_LE(line.size(), 79u) << line;
+    std::smatch m;
+    if (std::regex_search(line, m, entry)) entries.insert(m[1]);
+  }
+  std::set<std::string> names;
+  for (const auto& row : ovfmt::optionTable()) names.emplace(row.name);
+  EXPECT_EQ(entries, names);
+  EXPECT_TRUE(help.ends_with(" load.\n")) << help;
+}
+
+TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
+  expectRuns({
+      {{"--jobs", "1", "--batch"}, "I 01 00 00 0a\n", "10.0.0.1\n", "", 0},
+      {{"--jobs", "256", "--batch"}, "I 01 00 00 0a\n", "10.0.0.1\n", "", 0},
+      {{"--jobs", "257", "--batch"}, "", "", "--jobs needs a number from 1 to 256\n", 2},
+      {{"--batch", "--hexdump", "I"},
+       "",
+       "",
+       "ovfmt: give only one of --batch, --hexdump and --list\nTry 'ovfmt --help'.\n",
+       2},
+      // A directory opens, and its read fails.
+      {{"--batch", "/"}, "", "", "ovfmt: cannot read /: Is a directory\n", 2},
+      {{"--hexdump", "I", "/"}, "", "", "ovfmt: cannot read /: Is a directory\n", 2},
+      {{"--batch", "/nonexistent"},
+       "",
+       "",
+       "ovfmt: cannot open /nonexistent: No such file or directory\n",
+       2},
+      {{"--batch"}, "# only a comment\n", "", "ovfmt: <stdin>: no values to format\n", 0},
+      {{"I", "0\x01"}, "", "", "ovfmt: I: bad hex: byte 0x01 at column 2\n", 1},
+      {{"I", "00"},
+       "",
+       "",
+       "ovfmt: cannot load plug-in " ORVANE_SOURCE_DIR
+       "/tests/vectors: the directory holds no plug-in (*.so)\n",
+       2,
+       {"OVFMT_PLUGIN_DIR=" ORVANE_SOURCE_DIR "/tests/vectors"}},
+  });
+}
+
+// Every error line of a large batch gets out, in many gathered writes.
+TEST(OvfmtConventions, ThousandsOfErrorLinesAllWritten) {
+  std::string input, marks;
+  for (int i = 0; i < 3000; ++i) {
+    input += "I 0g\n";
+    marks += "?\n";
+  }
+  const auto run = runOvfmt({"--batch", "--keep-lines"}, input);
+  EXPECT_EQ(run.out, marks);
+  EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 3000);
+  EXPECT_TRUE(run.err.ends_with("<stdin>:3000: bad hex: 'g' at column 4\n"));
 }
 
 TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
@@ -65,6 +128,12 @@ TEST(OvfmtConventions, UnknownIdSuggestsTheNearest) {
   EXPECT_EQ(ovfmt::nearestIds("RRXXK", known), "RRRK"); // two edits are near from five on
   EXPECT_EQ(ovfmt::nearestIds("RXXXK", known), "");
   EXPECT_EQ(ovfmt::nearestIds(std::string(40, 'A'), known), "");
+  // Insertions, deletions and substitutions each count one.
+  const std::vector<std::string> longer{"ABCDEFGH"};
+  EXPECT_EQ(ovfmt::nearestIds("ABCDE", longer), "");          // three insertions
+  EXPECT_EQ(ovfmt::nearestIds("ABCDEF", longer), "ABCDEFGH"); // two
+  EXPECT_EQ(ovfmt::nearestIds("ABXDEFGHZ", longer), "ABCDEFGH");
+  EXPECT_EQ(ovfmt::nearestIds("BCDEFGH", longer), "ABCDEFGH");
 }
 
 // "str" prints its bytes as they are: a tab, an escape and DEL among them.
@@ -133,6 +202,7 @@ TEST(OvfmtConventions, HexDumpsOfEachTool) {
       {pgo, "000000 01 1g\n", "", "line 1: bad hex: 'g' at column 12", 1},
       {pgo, "000000 01 14\n*\n", "", "line 2: '*' with no offset after it", 1},
       {pgo, "000000 01 14\n*\n000003\n", "", "line 3: the copies '*' stands for", 1},
+      {pgo, "000000 01 14\n*\n000002 0a 01 10\n", "10.1.16.0/20\n", "", 0}, // no copy
       {{"--hexdump", "PGO", "/nonexistent"}, "", "", "cannot open /nonexistent: No such", 2},
   });
 }

@@ -18,7 +18,7 @@ const OptionRow* findLong(std::span<const OptionRow> rows, std::string_view name
 
 const OptionRow* findShort(std::span<const OptionRow> rows, char name) {
   for (const OptionRow& row : rows)
-    if (row.shortName != 0 && row.shortName == name) return &row;
+    if (row.shortName == name) return &row; // `name` is never 0: it is a character of argv
   return nullptr;
 }
 
