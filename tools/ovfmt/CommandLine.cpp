@@ -41,7 +41,26 @@ OptionWord splitOptionWord(std::span<const OptionRow> rows, std::string_view wor
   return split;
 }
 
-std::string quoted(std::string_view word) { return "'" + decoding::printable(word) + "'"; }
+// "  -X, --name=VALUE", or "      --name=VALUE" for an option without a short form.
+std::string entryNames(const OptionRow& row) {
+  std::string names(6, ' ');
+  if (row.shortName) {
+    names[2] = '-';
+    names[3] = row.shortName;
+    names[4] = ',';
+  }
+  names.append("--").append(row.name);
+  if (!row.valueName.empty()) names.append("=").append(row.valueName);
+  return names;
+}
+
+// Appends, rather than "'" + text + "'", which g++ 12 -O3 wrongly warns about (-Wrestrict).
+std::string quoted(std::string_view word) {
+  std::string text(1, '\'');
+  text += decoding::printable(word);
+  text += '\'';
+  return text;
+}
 
 } // namespace
 
@@ -81,10 +100,7 @@ std::string parseCommandLine(std::span<const char* const> args, std::span<const 
 std::string optionsHelp(std::span<const OptionRow> rows) {
   std::string help;
   for (const OptionRow& row : rows) {
-    std::string names = row.shortName ? std::string("  -") + row.shortName + ", " : "      ";
-    names += "--";
-    names += row.name;
-    if (!row.valueName.empty()) names += "=" + std::string(row.valueName);
+    const std::string names = entryNames(row);
     help += names;
     // A name too long for its column puts the help on the next line.
     help += names.size() + 2 <= kHelpColumn ? std::string(kHelpColumn - names.size(), ' ')
