@@ -190,6 +190,11 @@ TEST(OvfmtConventions, HexDumpsOfEachTool) {
       {pgo, "00000000  01 14 0a 01 10   |.....|\n00000005\n", "10.1.16.0/20\n", "", 0},
       {pgo, "000000 01 14 0a 01 10\r\n000005\r\n", "10.1.16.0/20\n", "", 0},
       {pgo, "00000000: 0114 0a01 10  3a3b\n", "10.1.16.0/20\n", "", 0}, // text column dropped
+      // A whole line of hexdump -C has two blanks amid its bytes.
+      {{"--hexdump", "PG"},
+       "00000000  02 20 01 0d b8 00 01 00  00 00 00 00 00 00 00 00  |. ..............|\n"
+       "00000010  00 30                                             |.0|\n00000012\n",
+       "2001:db8:1::/48\n", "", 0},
       // "*" repeats the line before up to the next offset: 48 bytes, IG takes 21.
       {{"--hexdump", "IG"},
        "00000000  " + zeros + "  |................|\n*\n00000030\n",
