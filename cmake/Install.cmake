@@ -2,13 +2,13 @@
 #   bin/ovfmt                                 the command-line host
 #   LIBDIR/libOrvaneHost.so.0                 the host library (and its symlinks)
 #   LIBDIR/orvane/libKaMessageFormatter.so    the plug-in, under the name hosts load
-#   include/orvane/...                        the public headers
+#   include/orvane/...                        the public headers, tracing/TypedField.h among them
 #   LIBDIR/cmake/Orvane/                      the CMake package: Orvane::Host,
 #                                             Orvane::KaMessageFormatter, Orvane::ovfmt
 #   LIBDIR/pkgconfig/                         orvane-host.pc and orvane.pc
 #   share/man/man1/ovfmt.1                    generated from ovfmt --help and --version
 #   share/doc/orvane/                         README.md and every docs/*.md
-#   ORVANE_INSTALL_PYTHONDIR/orvane.*.so      the Python module (python/), when built
+#   ORVANE_INSTALL_PYTHONDIR/orvane/          the Python package (python/), when built
 # Every path inside the installed files is relative to the prefix, so an installed tree
 # still works after it is moved.
 include(CMakePackageConfigHelpers)
@@ -27,6 +27,8 @@ install(TARGETS KaMessageFormatter EXPORT OrvaneTargets
   LIBRARY DESTINATION ${ORVANE_PLUGIN_SUBDIR})
 install(DIRECTORY registry host address mpls bgp keys packet
   DESTINATION ${ORVANE_INCLUDE_DIR} FILES_MATCHING PATTERN "*.h")
+# Of tracing/, the writer's header alone: the reader's headers are no public interface.
+install(FILES tracing/TypedField.h DESTINATION ${ORVANE_INCLUDE_DIR}/tracing)
 
 # find_package(Orvane 0.1 CONFIG): any 0.x release of at least the version asked for.
 install(EXPORT OrvaneTargets NAMESPACE Orvane:: DESTINATION ${ORVANE_CMAKE_DIR})

@@ -33,11 +33,21 @@
 // place in a heap block of exactly their bytes, and must give the same lengths, counts
 // and texts. Ids with guard areas above are left out of records: they read outside their
 // own length.
+//
+// Trace fields (with ORVANE_FUZZ_TRACE=1 set, and a build with the trace reader): the
+// first byte picks an id (every registered id, then one nobody registered), the rest is
+// a typed field's bytes in a heap block of exactly their size, decoded as the trace
+// reader decodes it. The verdict must match the length function's, and the text, once
+// escaped for a text line and for JSON, must hold no control character.
 #include "decoding/GuardedBuffer.h"
 #include "decoding/Record.h"
 #include "host/BaseTypes.h"
 #include "host/Registry.h"
 #include "registry/FormatMap.h"
+#ifdef ORVANE_FUZZ_TRACING
+#include "tracing/Escape.h"
+#include "tracing/TypedValue.h"
+#endif
 
 #include <algorithm>
 #include <cstdint>
@@ -192,6 +202,48 @@ void fuzzRecord(const unsigned char* data, std::size_t size) {
   }
 }
 
+#ifdef ORVANE_FUZZ_TRACING
+void expectPrintable(const std::string& escaped, const char* layout) {
+  for (unsigned char c : escaped)
+    if (c < 0x20 || c == 0x7f) {
+      std::fprintf(stderr, "trace field: a control character left in the %s layout\n", layout);
+      std::abort();
+    }
+}
+
+void fuzzTraceField(const unsigned char* data, std::size_t size) {
+  static const std::vector<std::string> ids = [] {
+    host::registerBaseTypes();
+    auto all = host::registeredIds();
+    all.push_back("NOPE");
+    return all;
+  }();
+  if (size == 0) return;
+  const std::string& id = ids[data[0] % ids.size()];
+  const std::size_t length = size - 1;
+  std::unique_ptr<unsigned char[]> block(new unsigned char[length ? length : 1]);
+  std::memcpy(block.get(), data + 1, length);
+  static tracing::TypedValueDecoder decoder;
+  const tracing::TypedResult result = decoder.decode(id, {block.get(), length});
+
+  // The length function's own verdict, on a guarded copy of the same bytes.
+  const host::FormatterPair* pair = host::findFormatter(id);
+  std::vector<unsigned char> padded(kPadBefore + length + kPadAfter, 0);
+  std::memcpy(padded.data() + kPadBefore, data + 1, length);
+  const unsigned needs = pair ? pair->length(padded.data() + kPadBefore) : kInvalidLength;
+  if (result.valid && (length == 0 || needs == kInvalidLength || needs > length)) {
+    std::fprintf(stderr, "trace field %s: valid, but %zu bytes and a length of %u\n", id.c_str(),
+                 length, needs);
+    std::abort();
+  }
+  std::string text, json;
+  tracing::appendEscapedText(text, result.valid ? result.text : result.reason);
+  tracing::appendJsonString(json, result.valid ? result.text : result.reason);
+  expectPrintable(text, "text");
+  expectPrintable(json, "JSON");
+}
+#endif
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
@@ -200,6 +252,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     fuzzRecord(data, size);
     return 0;
   }
+#ifdef ORVANE_FUZZ_TRACING
+  static const bool traceFields = std::getenv("ORVANE_FUZZ_TRACE") != nullptr;
+  if (traceFields) {
+    fuzzTraceField(data, size);
+    return 0;
+  }
+#endif
   const auto& all = targets();
   if (all.size() == 1) {
     fuzzOne(all.front(), data, size);

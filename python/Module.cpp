@@ -7,6 +7,10 @@
 #include "python/Errors.h"
 #include "python/Formatting.h"
 #include "python/Plugins.h"
+#include "python/PyText.h"
+#ifdef ORVANE_WITH_TRACES
+#include "python/TraceEvents.h"
+#endif
 #include "python/ValueBatch.h"
 
 #include <pybind11/pybind11.h>
@@ -21,11 +25,20 @@ namespace py = pybind11;
 namespace Orvane::python {
 namespace {
 
+/// orvane.FormatError, made when the module is initialised.
+py::object& formatErrorType() {
+  static py::object* type = new py::object(); // never destroyed: Python may outlive statics
+  return *type;
+}
+
 /// The bytes of a bytes-like object, held (so that they neither move nor go away) for
 /// the life of the view. A buffer that is not C-contiguous raises BufferError.
 class Bytes {
 public:
   explicit Bytes(py::handle object) {
+    if (PyUnicode_Check(object.ptr()))
+      throw py::type_error("data must be bytes-like, not str: pass bytes, such as "
+                           "bytes.fromhex(\"01140a0110\") for hex text");
     if (PyObject_GetBuffer(object.ptr(), &view_, PyBUF_SIMPLE) != 0) throw py::error_already_set();
   }
   ~Bytes() { PyBuffer_Release(&view_); }
@@ -39,15 +52,6 @@ public:
 private:
   Py_buffer view_;
 };
-
-/// A formatter's text as a str. Formatters print bytes as they find them (a corrupt
-/// string field may hold any byte), so bytes that are not UTF-8 become "\xNN" escapes.
-py::str toStr(std::string_view text) {
-  PyObject* str =
-      PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "backslashreplace");
-  if (!str) throw py::error_already_set();
-  return py::reinterpret_steal<py::str>(str);
-}
 
 /// resolve() with `where()` put before the problem of an id it cannot resolve (built
 /// only then: most ids resolve).
@@ -68,14 +72,14 @@ std::vector<std::string> ids() {
   return host::registeredIds();
 }
 
-unsigned length(std::string_view id, const py::buffer& data) {
+unsigned length(std::string_view id, const py::object& data) {
   ensurePluginLoaded();
   const decoding::ArgumentType type = resolve(id);
   // One call of a length function: less than handing the GIL over would cost.
   return measure(type, Bytes(data).span());
 }
 
-py::str format(std::string_view id, const py::buffer& data) {
+py::str format(std::string_view id, const py::object& data) {
   ensurePluginLoaded();
   const decoding::ArgumentType type = resolve(id);
   const Bytes bytes(data);
@@ -89,7 +93,7 @@ py::str format(std::string_view id, const py::buffer& data) {
 
 using IdList = std::variant<std::string, std::vector<std::string>>;
 
-py::object formatRecordOf(const IdList& list, const py::buffer& data,
+py::object formatRecordOf(const IdList& list, const py::object& data,
                           const std::optional<std::string>& layout) {
   ensurePluginLoaded();
   std::vector<std::string_view> ids;
@@ -132,9 +136,10 @@ void addItem(ValueBatch& batch, py::handle item, std::size_t index) {
   if (!PyUnicode_Check(id.ptr()))
     throw py::type_error(itemPrefix(index) + "the id must be a str, not " +
                          Py_TYPE(id.ptr())->tp_name);
-  if (!PyObject_CheckBuffer(data.ptr()))
-    throw py::type_error(itemPrefix(index) + "the data must be bytes-like, not " +
-                         Py_TYPE(data.ptr())->tp_name);
+  if (PyUnicode_Check(data.ptr()) || !PyObject_CheckBuffer(data.ptr()))
+    throw py::type_error(
+        itemPrefix(index) + "the data must be bytes-like, not " + Py_TYPE(data.ptr())->tp_name +
+        (PyUnicode_Check(data.ptr()) ? " (bytes.fromhex() turns hex into bytes)" : ""));
   Py_ssize_t size = 0;
   const char* utf8 = PyUnicode_AsUTF8AndSize(id.ptr(), &size);
   if (!utf8) throw py::error_already_set();
@@ -143,70 +148,82 @@ void addItem(ValueBatch& batch, py::handle item, std::size_t index) {
   batch.add(*type.formatter, type.id, Bytes(data).span());
 }
 
-py::list formatMany(const py::iterable& items) {
+/// The exception object of the error being handled (thrown by addItem), for
+/// format_many(errors="return").
+py::object caughtError() {
+  try {
+    throw;
+  } catch (py::error_already_set& error) {
+    return error.value();
+  } catch (const UnknownIdError& error) {
+    return py::reinterpret_borrow<py::object>(PyExc_KeyError)(error.what());
+  } catch (const py::type_error& error) {
+    return py::reinterpret_borrow<py::object>(PyExc_TypeError)(error.what());
+  }
+}
+
+/// Whether format_many returns a failed item's exception in its place (errors="return")
+/// or raises it (errors="raise").
+bool returnsErrors(std::string_view errors) {
+  if (errors != "raise" && errors != "return")
+    throw py::value_error("errors must be \"raise\" or \"return\", not \"" + std::string(errors) +
+                          "\"");
+  return errors == "return";
+}
+
+py::list formatMany(const py::iterable& items, std::string_view errors) {
   // Values per release of the GIL: enough to make its cost vanish, few enough to keep
   // the copies in the cache.
   constexpr std::size_t kBatchSize = 1024;
+  const bool inPlace = returnsErrors(errors);
   ensurePluginLoaded();
-  py::list texts;
+  py::list results;
   ValueBatch batch;
   std::size_t index = 0;
-  auto format = [&] {
-    py::gil_scoped_release unlocked;
-    batch.format(index - batch.size());
+  auto append = [&](const py::object& result) {
+    if (PyList_Append(results.ptr(), result.ptr()) != 0) throw py::error_already_set();
   };
+  // Formats the batch and appends its results; raises the first failure unless inPlace.
   auto flush = [&] {
-    format();
+    {
+      py::gil_scoped_release unlocked;
+      batch.format(index - batch.size());
+    }
+    if (!inPlace && batch.firstFailure() < batch.size())
+      throw FormatError(std::string(batch.problem(batch.firstFailure())));
     for (std::size_t i = 0; i < batch.size(); ++i)
-      if (PyList_Append(texts.ptr(), toStr(batch.text(i)).ptr()) != 0)
-        throw py::error_already_set();
+      append(batch.problem(i).empty() ? py::object(toStr(batch.text(i)))
+                                      : formatErrorType()(std::string(batch.problem(i))));
     batch.clear();
   };
   for (py::handle item : items) {
     try {
       addItem(batch, item, index);
     } catch (...) {
-      format(); // the problem of an item before this one comes first
-      throw;
+      flush(); // the items before this one come first, and so does their problem
+      if (!inPlace) throw;
+      append(caughtError());
     }
     ++index;
     if (batch.size() == kBatchSize) flush();
   }
-  if (batch.size() > 0) flush();
-  return texts;
+  flush();
+  return results;
 }
-
-const char kModuleDoc[] = R"(Decode binary trace values with the Orvane formatter plug-in.
-
-A traced value is a run of bytes tagged with a type id ("PGO", "BNH", "u32", ...); the
-plug-in's functions say how many bytes it holds and print it. Each value or record is
-copied into a zero-guarded buffer and each argument printed on a stream in a new
-stream's state, so the texts are exactly those of ovfmt.
-
-    >>> import orvane
-    >>> orvane.format("PGO", bytes.fromhex("01140a0110"))
-    '10.1.16.0/20'
-    >>> orvane.format_record("I,I", bytes.fromhex("0100000a0200000a"), "{} -> {}")
-    '10.0.0.1 -> 10.0.0.2'
-
-The first call that needs a formatter loads the plug-in installed or built beside this
-module, unless load() has already loaded one. Data is any bytes-like object (bytes,
-bytearray, a C-contiguous memoryview). Errors are exceptions with ovfmt's words:
-KeyError for an unknown id, FormatError (a ValueError) for data too short, an invalid
-encoding or bytes left over, LoadError (an OSError) for a plug-in that will not load.
-Formatting releases the GIL, so threads may format at once. Bytes of a text that are
-not UTF-8 (a corrupt string field) appear as \xNN escapes.)";
 
 } // namespace
 } // namespace Orvane::python
 
-PYBIND11_MODULE(orvane, m) {
+// The compiled part of the `orvane` package (python/orvane/__init__.py documents it and
+// re-exports what is here).
+PYBIND11_MODULE(_core, m) {
   using namespace Orvane::python;
-  m.doc() = kModuleDoc;
+  m.doc() = "The compiled formatters of the orvane package; import orvane instead.";
   m.attr("__version__") = ORVANE_VERSION;
   defaultPluginPath(); // fixed now, before the program can change its directory
 
-  py::register_exception<FormatError>(m, "FormatError", PyExc_ValueError).doc() =
+  formatErrorType() = py::register_exception<FormatError>(m, "FormatError", PyExc_ValueError);
+  formatErrorType().doc() =
       "Data that does not hold the value its id describes: too short, an invalid "
       "encoding, or bytes left after the value. A ValueError.";
   py::register_exception<LoadError>(m, "LoadError", PyExc_OSError).doc() =
@@ -225,6 +242,17 @@ directory path; with no path, the plug-in installed or built beside this module.
 The host's base types (u8, u16, u32, u64, x16, x32, bool, str) are registered
 after the first plug-in. Loading a plug-in again does nothing. Raises LoadError
 (an OSError) naming each path that failed.)");
+#ifdef ORVANE_WITH_TRACES
+  py::class_<TraceReader>(m, "TraceReader",
+                          "The event batches of a trace; orvane.trace.events() reads with it.")
+      .def(py::init<const std::string&, const std::optional<std::string>&,
+                    const std::optional<std::string>&, py::object,
+                    const std::vector<std::string>&>(),
+           py::arg("path"), py::arg("begin"), py::arg("end"), py::arg("invalid_type"),
+           py::arg("types"))
+      .def("__iter__", [](TraceReader& reader) -> TraceReader& { return reader; })
+      .def("__next__", &TraceReader::next);
+#endif
   m.def("ids", &ids, "Every registered id, sorted: the plug-ins' and the host's base types.");
   m.def("length", &length, py::arg("id"), py::arg("data"),
         R"(The size in bytes of the value of type id at the start of data, as its
@@ -243,9 +271,11 @@ next text ({{ and }} print a brace). Raises ValueError for a template whose {}
 differ in number from the ids, KeyError for an unknown id, FormatError for an
 argument that is invalid or runs past data, or bytes left after the last; the
 message names the argument.)");
-  m.def("format_many", &formatMany, py::arg("items"),
+  m.def("format_many", &formatMany, py::arg("items"), py::kw_only(), py::arg("errors") = "raise",
         R"(The texts of many values: items is an iterable of (id, data) pairs, each
-formatted as format() would. Returns a list of texts. For the first item that
-fails, raises what format() would, the message starting "item K: " (K counts
-from 0).)");
+formatted as format() would. Returns a list of texts. With errors="raise" (the
+default), raises for the first item that fails what format() would, the message
+starting "item K: " (K counts from 0). With errors="return", a failed item's
+exception object stands in the list in place of its text, and the other items
+are formatted all the same.)");
 }

@@ -1,6 +1,5 @@
 #include "python/ValueBatch.h"
 
-#include "python/Errors.h"
 #include "python/Formatting.h"
 
 namespace Orvane::python {
@@ -24,17 +23,26 @@ void ValueBatch::format(std::size_t firstIndex) {
     walker.load(std::span(bytes_).subspan(bytesBegin, value.bytesEnd - bytesBegin));
     const auto arguments = walker.walk({&type, 1});
     if (std::string problem = walkProblem(walker, arguments, 1); !problem.empty())
-      throw FormatError(itemPrefix(firstIndex + i) + problem);
-    texts_ += arguments.front().text;
+      problems_ += itemPrefix(firstIndex + i) + problem;
+    else
+      texts_ += arguments.front().text;
     textEnds_.push_back(texts_.size());
+    problemEnds_.push_back(problems_.size());
     idBegin = value.idEnd;
     bytesBegin = value.bytesEnd;
   }
 }
 
-std::string_view ValueBatch::text(std::size_t i) const {
-  const std::size_t begin = i == 0 ? 0 : textEnds_[i - 1];
-  return std::string_view(texts_).substr(begin, textEnds_[i] - begin);
+std::size_t ValueBatch::firstFailure() const {
+  for (std::size_t i = 0; i < problemEnds_.size(); ++i)
+    if (!problem(i).empty()) return i;
+  return values_.size();
+}
+
+std::string_view ValueBatch::slice(const std::string& joined, const std::vector<std::size_t>& ends,
+                                   std::size_t i) {
+  const std::size_t begin = i == 0 ? 0 : ends[i - 1];
+  return std::string_view(joined).substr(begin, ends[i] - begin);
 }
 
 void ValueBatch::clear() {
@@ -43,6 +51,8 @@ void ValueBatch::clear() {
   bytes_.clear();
   texts_.clear();
   textEnds_.clear();
+  problems_.clear();
+  problemEnds_.clear();
 }
 
 } // namespace Orvane::python

@@ -26,16 +26,24 @@ public:
   /// Values added since the last clear().
   std::size_t size() const { return values_.size(); }
 
-  /// Formats every value in order on the calling thread's walker. Throws FormatError
-  /// "item K: PROBLEM" for the first value that fails, K being `firstIndex` plus the
-  /// value's place in the batch.
+  /// Formats every value in order on the calling thread's walker. A value that fails
+  /// gets an empty text and the problem "item K: PROBLEM", K being `firstIndex` plus
+  /// the value's place in the batch; the values after it are formatted all the same.
   void format(std::size_t firstIndex);
   /// The text of value `i` (from 0) after format(); valid until clear().
-  std::string_view text(std::size_t i) const;
+  std::string_view text(std::size_t i) const { return slice(texts_, textEnds_, i); }
+  /// Why value `i` failed after format(), or empty when it did not; valid until clear().
+  std::string_view problem(std::size_t i) const { return slice(problems_, problemEnds_, i); }
+  /// The first value that failed after format(), or size() when none did.
+  std::size_t firstFailure() const;
   /// Forgets every value and text, keeping the memory for the next batch.
   void clear();
 
 private:
+  /// Piece `i` of `joined`, whose pieces end at `ends`.
+  static std::string_view slice(const std::string& joined, const std::vector<std::size_t>& ends,
+                                std::size_t i);
+
   struct Value {
     const host::FormatterPair* formatter;
     std::size_t idEnd;    ///< where the id ends in ids_
@@ -46,6 +54,8 @@ private:
   std::vector<unsigned char> bytes_;
   std::string texts_;
   std::vector<std::size_t> textEnds_;
+  std::string problems_;
+  std::vector<std::size_t> problemEnds_;
 };
 
 } // namespace Orvane::python

@@ -14,3 +14,14 @@ dpkg-deb -x "$work"/orvane_*.deb "$work/root"
 minor=$([ -z "${PYTHON:-}" ] || "$PYTHON" -c 'import sys; print("%d.%d" % sys.version_info[:2])')
 [ -z "${PYTHON:-}" ] || { dpkg-deb -f "$work"/orvane_*.deb Depends | grep -F "python3 (>= $minor)"
   PYTHONPATH=$work/root/usr/$PYTHONDIR "$PYTHON" -c 'import orvane; print(orvane.ids()[0])' | grep -x A; }
+# The babeltrace2 plug-in sits in babeltrace2's own plug-in directory under /usr and, from
+# there, prints a trace as the build's does, its formatters found beside the host library.
+plugin=usr/lib/x86_64-linux-gnu/babeltrace2/plugins
+if [ -f "$build/lib/babeltrace2/plugins/babeltrace-plugin-orvane.so" ]; then
+  python3 tracing/make_trace.py "$work/traces"
+  babeltrace2 --plugin-path="$work/root/$plugin" "$work/traces/good" -c sink.orvane.text |
+    diff -u <(babeltrace2 --plugin-path="$build/lib/babeltrace2/plugins" "$work/traces/good" \
+              -c sink.orvane.text) -
+  grep -q 'nexthop = <ip:10.0.0.1' <(babeltrace2 --plugin-path="$work/root/$plugin" \
+    "$work/traces/good" -c sink.orvane.text)
+fi

@@ -83,6 +83,25 @@ class SameAsOvfmt(unittest.TestCase):
             __getitem__ = lambda self, i: "PGO" if i == 0 else 1 / 0
         self.assertRaises(ZeroDivisionError, orvane.format_many, [BrokenPair()])
 
+    def test_format_many_returns_errors_in_place(self):
+        items = [("PGO", PGO), ("PGO", PGO[:1]), ("NOPE", b""), ("I", "0100000a"), ("I", bytes(4))]
+        results = orvane.format_many(items, errors="return")
+        self.assertEqual(results[0::4], ["10.1.16.0/20", "0.0.0.0"])
+        for result, (error, words) in zip(results[1:4], [
+                (orvane.FormatError, "item 1: value too short"), (KeyError, "item 2: unknown id"),
+                (TypeError, "item 3: the data must be bytes-like, not str")]):
+            self.assertIsInstance(result, error)
+            self.assertTrue(result.args[0].startswith(words), result.args[0])
+        self.assertEqual(len(orvane.format_many([("PGO", PGO[:1])] * 1025, errors="return")), 1025)
+        self.assertRaisesRegex(ValueError, 'errors must be "raise" or "return"',
+                               orvane.format_many, [], errors="ignore")
+
+    def test_str_data_says_to_pass_bytes(self):
+        for call in (lambda: orvane.format("PGO", "01140a0110"),
+                     lambda: orvane.length("PGO", "01140a0110"),
+                     lambda: orvane.format_record("PGO", "01140a0110")):
+            self.assertRaisesRegex(TypeError, r"not str: pass bytes.*bytes\.fromhex", call)
+
     def test_bytes_like_data_and_lengths(self):
         for data in (PGO, bytearray(PGO), memoryview(PGO), memoryview(b"\0" + PGO)[1:]):
             self.assertEqual(orvane.format("PGO", data), "10.1.16.0/20")

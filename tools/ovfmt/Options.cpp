@@ -16,6 +16,7 @@ constexpr std::string_view kForms[] = {
     "[OPTION]... --batch [FILE]...",
     "[OPTION]... --hexdump ID[,ID...] [FILE]",
     "[OPTION]... --list",
+    "[--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]",
 };
 
 constexpr std::string_view kDescription =
@@ -27,7 +28,9 @@ constexpr std::string_view kDescription =
     "the pairs, so a MAC reads as 00:1c:73:aa:bb:cc, 00-1c-73-aa-bb-cc or\n"
     "001c.73aa.bbcc; a '0x' before a byte is an error that says so. A FILE\n"
     "of '-', or none, is standard input. Options may come anywhere before a\n"
-    "'--', which ends them.\n"
+    "'--', which ends them. --trace prints the events of the CTF traces in DIR,\n"
+    "typed fields as their formatters' text; --json prints JSON Lines, --begin\n"
+    "and --end keep the events from and up to time T (docs/traces.md).\n"
     "\n"
     "Control characters (bytes 0x00 to 0x1f and 0x7f) in a formatter's text\n"
     "print as \\xNN, so that one value is one line and no traced byte reaches a\n"

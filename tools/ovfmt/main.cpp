@@ -8,6 +8,7 @@
 #include "tools/ovfmt/Options.h"
 #include "tools/ovfmt/Plugins.h"
 #include "tools/ovfmt/RecordPrinter.h"
+#include "tools/ovfmt/Trace.h"
 
 #include <cerrno>
 #include <climits>
@@ -162,6 +163,12 @@ int formatHexDump(const Options& options) {
 
 int main(int argc, char** argv) {
   Options options;
+  if (ovfmt::isTraceCommand(argc, argv))
+    return ovfmt::runTrace(argc, argv, [](const std::vector<std::string>& plugins) {
+      if (!ovfmt::loadPlugins(plugins, true, defaultPlugin())) return false;
+      host::registerBaseTypes();
+      return true;
+    });
   if (std::string problem = ovfmt::readOptions(argc, argv, options); !problem.empty())
     return usageError(problem);
   if (options.help) return printText(ovfmt::helpText());

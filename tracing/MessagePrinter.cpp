@@ -1,0 +1,137 @@
+#include "tracing/MessagePrinter.h"
+
+#include "tracing/Escape.h"
+#include "tracing/Numbers.h"
+
+namespace Orvane::tracing {
+namespace {
+
+/// What a discarded-events or discarded-packets message says.
+struct Discarded {
+  const bt_stream* stream = nullptr;
+  bool hasCount = false;
+  std::uint64_t count = 0;
+  const bt_clock_snapshot* begin = nullptr;
+  const bt_clock_snapshot* end = nullptr;
+};
+
+Discarded discardedEvents(const bt_message* message) {
+  Discarded d;
+  d.stream = bt_message_discarded_events_borrow_stream_const(message);
+  d.hasCount = bt_message_discarded_events_get_count(message, &d.count) ==
+               BT_PROPERTY_AVAILABILITY_AVAILABLE;
+  if (bt_stream_class_discarded_events_have_default_clock_snapshots(
+          bt_stream_borrow_class_const(d.stream))) {
+    d.begin = bt_message_discarded_events_borrow_beginning_default_clock_snapshot_const(message);
+    d.end = bt_message_discarded_events_borrow_end_default_clock_snapshot_const(message);
+  }
+  return d;
+}
+
+Discarded discardedPackets(const bt_message* message) {
+  Discarded d;
+  d.stream = bt_message_discarded_packets_borrow_stream_const(message);
+  d.hasCount = bt_message_discarded_packets_get_count(message, &d.count) ==
+               BT_PROPERTY_AVAILABILITY_AVAILABLE;
+  if (bt_stream_class_discarded_packets_have_default_clock_snapshots(
+          bt_stream_borrow_class_const(d.stream))) {
+    d.begin = bt_message_discarded_packets_borrow_beginning_default_clock_snapshot_const(message);
+    d.end = bt_message_discarded_packets_borrow_end_default_clock_snapshot_const(message);
+  }
+  return d;
+}
+
+std::string_view traceName(const bt_stream* stream) {
+  const char* name = bt_trace_get_name(bt_stream_borrow_trace_const(stream));
+  return name ? name : "";
+}
+
+} // namespace
+
+MessagePrinter::MessagePrinter(SinkOptions options)
+    : json_(options.json), clock_(options.clock), walker_(std::move(options.types)),
+      text_(out_, options.clock), jsonLayout_(out_) {
+  if (json_) out_ = jsonSchemaLine();
+}
+
+void MessagePrinter::print(const bt_message* message) {
+  switch (bt_message_get_type(message)) {
+  case BT_MESSAGE_TYPE_EVENT: printEvent(message); break;
+  case BT_MESSAGE_TYPE_DISCARDED_EVENTS: printDiscarded(message, false); break;
+  case BT_MESSAGE_TYPE_DISCARDED_PACKETS: printDiscarded(message, true); break;
+  default: break;
+  }
+}
+
+void MessagePrinter::printEvent(const bt_message* message) {
+  const bt_event* event = bt_message_event_borrow_event_const(message);
+  EventInfo info = eventInfoOf(message);
+  info.host = hostOf(bt_event_borrow_stream_const(event));
+  if (json_)
+    walker_.walk(event, info, jsonLayout_);
+  else
+    walker_.walk(event, info, text_);
+}
+
+std::string_view MessagePrinter::hostOf(const bt_stream* stream) {
+  const bt_trace* trace = bt_stream_borrow_trace_const(stream);
+  if (trace != hostTrace_) {
+    const bt_value* host = bt_trace_borrow_environment_entry_value_by_name_const(trace, "hostname");
+    hostTrace_ = trace;
+    host_ = host && bt_value_is_string(host) ? bt_value_string_get(host) : "";
+  }
+  return host_;
+}
+
+void MessagePrinter::appendBoundary(const bt_clock_snapshot* snapshot) {
+  std::int64_t ns = 0;
+  if (!nsFromOrigin(snapshot, ns)) {
+    (json_ ? out_ : warnings_) += json_ ? "null" : "?";
+    return;
+  }
+  if (json_) {
+    appendSigned(out_, ns, false);
+  } else {
+    ClockOptions plain = clock_;
+    plain.delta = false;
+    std::string stamp;
+    TimestampPrinter(plain).append(stamp, ns);
+    warnings_.append(stamp, 0, stamp.size() - 1); // without the blank after "]"
+  }
+}
+
+void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
+  const Discarded d = packets ? discardedPackets(message) : discardedEvents(message);
+  const char* what = packets ? "packets" : "events";
+  const char* one = packets ? "packet" : "event";
+  if (json_) {
+    out_ += R"({"type":"discarded_)";
+    out_ += what;
+    out_ += R"(","count":)";
+    d.hasCount ? appendUnsigned(out_, d.count, false) : void(out_ += "null");
+    out_ += R"(,"begin_ns":)";
+    appendBoundary(d.begin);
+    out_ += R"(,"end_ns":)";
+    appendBoundary(d.end);
+    out_ += R"(,"trace":")";
+    appendJsonString(out_, traceName(d.stream));
+    out_ += R"(","stream_id":)";
+    appendUnsigned(out_, bt_stream_get_id(d.stream), false);
+    out_ += "}\n";
+    return;
+  }
+  warnings_ += "orvane: warning: ";
+  warnings_ += d.hasCount ? std::to_string(d.count) : std::string("some");
+  warnings_ += std::string(" ") + (d.hasCount && d.count == 1 ? one : what) + " discarded";
+  if (d.begin && d.end) {
+    warnings_ += " between ";
+    appendBoundary(d.begin);
+    warnings_ += " and ";
+    appendBoundary(d.end);
+  }
+  warnings_ += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
+  appendEscapedText(warnings_, traceName(d.stream));
+  warnings_ += "\"\n";
+}
+
+} // namespace Orvane::tracing

@@ -1,0 +1,48 @@
+// What the reader prints for each message of a trace: events as text or JSON lines,
+// discarded events and packets as warnings (text) or records of their own (JSON).
+#pragma once
+
+#include "tracing/EventWalker.h"
+#include "tracing/JsonLayout.h"
+#include "tracing/SinkOptions.h"
+#include "tracing/TextLayout.h"
+
+#include <babeltrace2/babeltrace.h>
+
+#include <string>
+
+namespace Orvane::tracing {
+
+/// Collects the output of message after message in two strings the caller writes out
+/// and clears: output() for standard output, warnings() for standard error.
+class MessagePrinter {
+public:
+  explicit MessagePrinter(SinkOptions options);
+
+  /// Appends what `message` shows; messages that show nothing (stream and packet
+  /// beginnings and ends, inactivity) are skipped.
+  void print(const bt_message* message);
+
+  std::string& output() { return out_; }
+  std::string& warnings() { return warnings_; }
+  /// Typed fields found invalid so far.
+  std::size_t invalidFields() const { return walker_.invalidFields(); }
+
+private:
+  void printEvent(const bt_message* message);
+  void printDiscarded(const bt_message* message, bool packets);
+  void appendBoundary(const bt_clock_snapshot* snapshot);
+  /// The hostname of `stream`'s trace, looked up again only when the trace changes.
+  std::string_view hostOf(const bt_stream* stream);
+
+  bool json_;
+  ClockOptions clock_;
+  EventWalker walker_;
+  std::string out_, warnings_;
+  const bt_trace* hostTrace_ = nullptr;
+  std::string host_;
+  TextLayout text_;
+  JsonLayout jsonLayout_;
+};
+
+} // namespace Orvane::tracing
