@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -99,7 +101,11 @@ TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
   expectRuns({
       {{"E", "00-1c-73-aa-bb-cc"}, "", "001c.73aa.bbcc\n", "", 0},
       {{"E", "001c.73aa.bbcc"}, "", "001c.73aa.bbcc\n", "", 0},
-      {{"I", "0x0a", "00"}, "", "", "'x' at column 2 (drop the 0x", 1},
+      {{"I", "0x0a", "00"},
+       "",
+       "",
+       "'x' at column 2 (drop the 0x: bytes are pairs of hex digits)\n",
+       1},
       {{"I", "0a", "0g"}, "", "", "bad hex: 'g' at column 5\n", 1},
       {{"I", "0a 0", "00"}, "", "", "odd number of digits at column 4", 1},
       // In a batch, columns count from the start of the line.
@@ -238,6 +244,18 @@ TEST(OvfmtConventions, OutputThatCannotBeWrittenFails) {
     const int status = std::system(command.c_str());
     EXPECT_EQ(WEXITSTATUS(status), 1) << args;
   }
+  // Text, then an error line: the text's failed write is reported although stderr works.
+  const std::string err = std::string(std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") +
+                          "/ovfmt-full-" + std::to_string(getpid());
+  const std::string command = "printf 'I 01 00 00 0a\\nI 0g\\n' | " + std::string(OVFMT_PATH) +
+                              " --batch >/dev/full 2>" + err;
+  EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1);
+  std::ifstream written(err);
+  const std::string reported((std::istreambuf_iterator<char>(written)), {});
+  std::remove(err.c_str());
+  EXPECT_NE(reported.find("ovfmt: cannot write the output: No space left on device\n"),
+            std::string::npos)
+      << reported;
 }
 
 } // namespace
