@@ -101,6 +101,7 @@ TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
   expectRuns({
       {{"E", "00-1c-73-aa-bb-cc"}, "", "001c.73aa.bbcc\n", "", 0},
       {{"E", "001c.73aa.bbcc"}, "", "001c.73aa.bbcc\n", "", 0},
+      {{"I", "AB CD EF 0a"}, "", "10.239.205.171\n", "", 0},
       {{"I", "0x0a", "00"},
        "",
        "",
@@ -140,6 +141,7 @@ TEST(OvfmtConventions, UnknownIdSuggestsTheNearest) {
   EXPECT_EQ(ovfmt::nearestIds("ABCDEF", longer), "ABCDEFGH"); // two
   EXPECT_EQ(ovfmt::nearestIds("ABXDEFGHZ", longer), "ABCDEFGH");
   EXPECT_EQ(ovfmt::nearestIds("BCDEFGH", longer), "ABCDEFGH");
+  EXPECT_EQ(ovfmt::nearestIds("E", {"EMK"}), ""); // two insertions
 }
 
 // "str" prints its bytes as they are: a tab, an escape and DEL among them.
