@@ -169,6 +169,11 @@ TEST(OvfmtConventions, BatchLinesSayWhereTheyCameFrom) {
       {{"--batch", "-n"}, input, printed, "<stdin>:4: bad hex", 1},
       {{"--batch", "-n", "--jobs", "2"}, input, printed, "<stdin>:5: 1 byte after", 1},
       {{"--batch", "--keep-lines"}, input, "10.0.0.1\n\n\n?\n10.0.0.2\n", "<stdin>:4:", 1},
+      {{"--batch", "-n"},
+       "I 01 00 00 0a\nI 02 00 00 0a",
+       printed.substr(0, 11) + "2:10.0.0.2\n",
+       "",
+       0}, // the last line without its newline
       {{"--batch", "-H", "-n", "--keep-lines"},
        input,
        "<stdin>:1:10.0.0.1\n<stdin>:2:\n<stdin>:3:\n<stdin>:4:?\n<stdin>:5:10.0.0.2\n",
