@@ -7,6 +7,7 @@
 #                                             Orvane::KaMessageFormatter, Orvane::ovfmt
 #   LIBDIR/pkgconfig/                         orvane-host.pc and orvane.pc
 #   share/man/man1/ovfmt.1                    generated from ovfmt --help and --version
+#   share/doc/orvane/                         README.md and every docs/*.md
 #   ORVANE_INSTALL_PYTHONDIR/orvane/          the Python package (python/), when built
 # Every path inside the installed files is relative to the prefix, so an installed tree
 # still works after it is moved.
@@ -45,5 +46,9 @@ foreach(pc orvane-host orvane)
   configure_file(cmake/${pc}.pc.in ${pc}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc}.pc DESTINATION ${ORVANE_PKGCONFIG_DIR})
 endforeach()
+
+install(FILES README.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/orvane)
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/orvane
+  FILES_MATCHING PATTERN "*.md")
 
 include(cmake/ManPage.cmake)

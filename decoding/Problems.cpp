@@ -77,10 +77,6 @@ std::string leftoverProblem(const RecordWalker& walker, std::span<const Argument
          bytesWord(walker.leftover()) + " after the value not consumed";
 }
 
-std::string notReachedProblem(std::size_t stoppedAt) {
-  return "not formatted: the walk stopped at argument " + std::to_string(stoppedAt);
-}
-
 std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments) {
   return "the template has " + std::to_string(placeholders) + " '{}' but the record has " +
          plural(arguments, "argument", "arguments");

@@ -41,9 +41,6 @@ std::string firstFaultProblem(std::span<const Argument> arguments, std::size_t c
 /// after the last; empty otherwise.
 std::string leftoverProblem(const RecordWalker& walker, std::span<const Argument> arguments);
 
-/// Why an argument got no text: the walk stopped at argument `stoppedAt` (from 1).
-std::string notReachedProblem(std::size_t stoppedAt);
-
 /// The usage problem of a template whose placeholders do not match the arguments, naming
 /// both counts.
 std::string placeholderCountProblem(std::size_t placeholders, std::size_t arguments);

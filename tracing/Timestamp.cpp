@@ -2,7 +2,6 @@
 
 #include "tracing/Numbers.h"
 
-
 namespace Orvane::tracing {
 namespace {
 

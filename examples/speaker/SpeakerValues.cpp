@@ -165,9 +165,9 @@ Bytes SpeakerValues::packet() {
   static constexpr unsigned char kIcmpHeader[] = {0x45, 0x00, 0x00, 0x54, 0x3c, 0x1c, 0x40,
                                                   0x00, 0x40, 0x01, 0xf5, 0xa2, 0x0a, 0x01,
                                                   0x01, 0x01, 0x0a, 0x02, 0x02, 0x02};
-  Bytes bytes{0x00, 0x81};                                           // TPID 0x8100, native
-  bytes.addNative(static_cast<std::uint16_t>(100 + below(100)));     // VLAN id
-  bytes.add({1, 0, 0, sizeof kIcmpHeader});                          // tagged, count
+  Bytes bytes{0x00, 0x81};                                       // TPID 0x8100, native
+  bytes.addNative(static_cast<std::uint16_t>(100 + below(100))); // VLAN id
+  bytes.add({1, 0, 0, sizeof kIcmpHeader});                      // tagged, count
   bytes.add(kIcmpHeader, sizeof kIcmpHeader);
   return bytes;
 }

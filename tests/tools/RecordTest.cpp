@@ -41,17 +41,27 @@ TEST(OvfmtRecord, ExampleRecordsDecode) {
 
 TEST(OvfmtRecord, AFailedArgumentFailsTheRecord) {
   expectRuns({
-      {{"BPK,I,BNH", kPeer, "01 00 00"}, "", "",
-       "ovfmt: BPK,I,BNH: argument 2 of 3 (I): value too short: 3 bytes left, I needs 4\n", 1},
-      {{"BPK,PGO,I", kPeer, "03 00 01 00 00 0a"}, "", "",
+      {{"BPK,I,BNH", kPeer, "01 00 00"},
+       "",
+       "",
+       "ovfmt: BPK,I,BNH: argument 2 of 3 (I): value too short: 3 bytes left, I needs 4\n",
+       1},
+      {{"BPK,PGO,I", kPeer, "03 00 01 00 00 0a"},
+       "",
+       "",
        "argument 2 of 3 (PGO): invalid encoding: the length function of PGO returned 0xFFFFFFFF",
        1},
       {{"I,NOPE", "01 00 00 0a 00"}, "", "", "argument 2 of 2 (NOPE): unknown id \"NOPE\"", 1},
-      {{"I,I", "01 00 00 0a 02 00 00 0a 07"}, "", "10.0.0.1 10.0.0.2\n",
-       "argument 2 of 2 (I): 1 byte after the value not consumed", 0},
-      {{"--counts", "BPK,PGO,I", kPeer, "03 00"}, "",
+      {{"I,I", "01 00 00 0a 02 00 00 0a 07"},
+       "",
+       "10.0.0.1 10.0.0.2\n",
+       "argument 2 of 2 (I): 1 byte after the value not consumed",
+       1},
+      {{"--counts", "BPK,PGO,I", kPeer, "03 00"},
+       "",
        "BPK\t10\t10\t" + kPeerText + "\nPGO\t4294967295\t4294967295\tunknown address family(3)/0\n",
-       "argument 3 of 3 (I): not formatted: the walk stopped at argument 2", 1},
+       "argument 2 of 3 (PGO): invalid encoding: the length function of PGO returned 0xFFFFFFFF",
+       1},
   });
 }
 
@@ -63,7 +73,12 @@ TEST(OvfmtRecord, UsageErrors) {
       {{"--template", "{{}", "I", "00"}, "", "", "stray '}' at column 3", 2},
       {{"--template", "{}", "--sep", "-", "I", "00"}, "", "", "not both", 2},
       {{"--counts", "--sep", "-", "I", "00"}, "", "", "do not apply", 2},
-      {{"--jobs", "2", "I", "00"}, "", "", "--jobs applies to --batch only", 2},
+      {{"--jobs", "2", "I", "00"}, "", "", "--jobs, --line-number, --with-filename and", 2},
+      {{"-n", "I", "00"}, "", "", "apply to --batch only", 2},
+      {{"--counts", "--keep-lines", "--batch"}, "", "", "--keep-lines does not apply", 2},
+      // The template is checked against the record's first word, its ids.
+      {{"--template", "{}", "I,I", "00"}, "", "", "has 1 '{}' but the record has 2", 2},
+      {{"--template", "{}", "--hexdump", "I,I"}, "", "", "the record has 2 arguments", 2},
       {{"--jobs", "0", "--batch"}, "", "", "--jobs needs a number from 1 to", 2},
   });
 }

@@ -49,9 +49,16 @@ void formatLines(RecordPrinter& printer, std::span<const std::string_view> lines
                  BatchSummary& summary) {
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const auto parts = splitBatchLine(lines[i]);
-    if (!parts) continue;
+    // Columns count from the start of the line, as an editor counts them.
+    const Where where{name, firstLine + i,
+                      parts ? static_cast<std::size_t>(parts->hex.data() - lines[i].data()) + 1
+                            : 0};
+    if (!parts) {
+      printer.printSkipped(where, output);
+      continue;
+    }
     ++summary.records;
-    summary.allPrinted &= printer.print({name, firstLine + i}, parts->id, parts->hex, output);
+    summary.allPrinted &= printer.print(where, parts->id, parts->hex, output);
   }
 }
 

@@ -21,7 +21,7 @@ constexpr std::array<std::uint16_t, 256> charTable(int shift) {
   digits('0', '9', 0);
   digits('a', 'f', 10);
   digits('A', 'F', 10);
-  for (char c : {' ', '\t', ':'}) values[static_cast<unsigned char>(c)] = kSeparator;
+  for (char c : {' ', '\t', ':', '-', '.'}) values[static_cast<unsigned char>(c)] = kSeparator;
   return values;
 }
 constexpr auto kLow = charTable(0), kHigh = charTable(4);
@@ -37,23 +37,28 @@ std::string describe(char c) {
   return "byte 0x" + std::string(digits, 2);
 }
 
-std::string badCharacter(char c, std::size_t index) {
-  return "bad hex: " + describe(c) + " at column " + std::to_string(index + 1);
+std::string badCharacter(char c, std::size_t column) {
+  return "bad hex: " + describe(c) + " at column " + std::to_string(column);
 }
 
-// What is wrong with the pair at `i` whose character classes are `high` and `low`.
-std::string pairProblem(std::string_view text, std::size_t i, unsigned high, unsigned low) {
-  if (high == kNotHex) return badCharacter(text[i], i);
+// What is wrong with the pair at `i` whose character classes are `high` and `low`; text[0]
+// is at `firstColumn`.
+std::string pairProblem(std::string_view text, std::size_t i, unsigned high, unsigned low,
+                        std::size_t firstColumn) {
+  const std::size_t column = firstColumn + i;
+  if (high == kNotHex) return badCharacter(text[i], column);
   if (low == kSeparator)
-    return "bad hex: odd number of digits at column " + std::to_string(i + 1) +
+    return "bad hex: odd number of digits at column " + std::to_string(column) +
            " (bytes are pairs of hex digits)";
-  return badCharacter(text[i + 1], i + 1);
+  if (text[i] == '0' && (text[i + 1] == 'x' || text[i + 1] == 'X'))
+    return badCharacter(text[i + 1], column + 1) + " (drop the 0x: bytes are pairs of hex digits)";
+  return badCharacter(text[i + 1], column + 1);
 }
 
 } // namespace
 
 bool parseHexInto(std::string_view text, unsigned char* out, std::size_t& written,
-                  std::string& error) {
+                  std::string& error, std::size_t firstColumn) {
   // Locals, not `written` and `text`: a store through `out` (a char pointer) could alias
   // them and would force the compiler to reload them for every byte.
   const char* chars = text.data();
@@ -76,7 +81,7 @@ bool parseHexInto(std::string_view text, unsigned char* out, std::size_t& writte
     const unsigned low = i + 1 < size ? classOf(chars[i + 1]) : kSeparator;
     if ((high | low) & ~0xfu) { // not two digits
       written = bytes;
-      error = pairProblem(text, i, high, low);
+      error = pairProblem(text, i, high, low, firstColumn);
       return false;
     }
     out[bytes++] = static_cast<unsigned char>(high << 4 | low);

@@ -1,7 +1,9 @@
 #include "tools/ovfmt/RecordPrinter.h"
 
 #include "decoding/Problems.h"
+#include "tools/ovfmt/Escape.h"
 #include "tools/ovfmt/Hex.h"
+#include "tools/ovfmt/Suggest.h"
 
 #include <algorithm>
 
@@ -11,9 +13,11 @@ namespace {
 // Parses `hex` straight into the walker's buffer as the record. On bad hex returns
 // false, sets `error` (see parseHexInto) and leaves an empty record, the bytes parsed
 // before the error zeroed again: they lie in the guard of the next record.
-bool loadHex(decoding::RecordWalker& walker, std::string_view hex, std::string& error) {
+bool loadHex(decoding::RecordWalker& walker, std::string_view hex, std::size_t firstColumn,
+             std::string& error) {
   std::size_t written = 0;
-  const bool parsed = parseHexInto(hex, walker.prepare(maxHexBytes(hex)), written, error);
+  const bool parsed =
+      parseHexInto(hex, walker.prepare(maxHexBytes(hex)), written, error, firstColumn);
   walker.place(written);
   if (!parsed) walker.place(0);
   return parsed;
@@ -23,10 +27,37 @@ bool loadHex(decoding::RecordWalker& walker, std::string_view hex, std::string& 
 
 bool RecordPrinter::print(const Where& where, std::string_view idList, std::string_view hex,
                           Output& output) {
-  if (!resolve(where, idList, output)) return false;
+  const std::size_t start = output.text().size();
+  if (!resolve(where, idList, output)) return markFailed(where, start, output);
   std::string hexError;
-  if (!loadHex(walker_, hex, hexError)) return fail(where, hexError, output);
-  return options_.counts ? printCounts(where, output) : printText(where, output);
+  if (!loadHex(walker_, hex, where.hexColumn, hexError)) {
+    fail(where, hexError, output);
+    return markFailed(where, start, output);
+  }
+  return printLoaded(where, output) || markFailed(where, start, output);
+}
+
+bool RecordPrinter::print(const Where& where, std::string_view idList,
+                          std::span<const unsigned char> bytes, Output& output) {
+  const std::size_t start = output.text().size();
+  if (!resolve(where, idList, output)) return markFailed(where, start, output);
+  walker_.load(bytes);
+  return printLoaded(where, output) || markFailed(where, start, output);
+}
+
+void RecordPrinter::printSkipped(const Where& where, Output& output) {
+  if (!options_.keepLines) return;
+  linePrefix(where, output.text());
+  output.text().append('\n');
+}
+
+bool RecordPrinter::markFailed(const Where& where, std::size_t start, Output& output) {
+  if (options_.keepLines && output.text().size() == start) {
+    linePrefix(where, output.text());
+    output.text().append(options_.failedMarker);
+    output.text().append('\n');
+  }
+  return false;
 }
 
 bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output& output) {
@@ -41,8 +72,8 @@ bool RecordPrinter::resolve(const Where& where, std::string_view idList, Output&
     const host::FormatterPair* formatter = host::findFormatter(ids_[i]);
     if (std::string problem = decoding::formatterProblem(ids_[i], formatter); !problem.empty())
       return fail(where,
-                  decoding::argumentPrefix(i + 1, ids_.size(), ids_[i]) + problem +
-                      (formatter ? "" : " (ovfmt --list shows the ids)"),
+                  decoding::argumentPrefix(i + 1, ids_.size(), ids_[i]) +
+                      (formatter ? problem : unknownId(ids_[i])),
                   output);
     resolved_.push_back({ids_[i], formatter});
   }
@@ -60,20 +91,20 @@ bool RecordPrinter::printCounts(const Where& where, Output& output) {
   const auto arguments = walker_.walk(types_);
   decoding::TextStream& text = output.text();
   for (const decoding::Argument& argument : arguments) {
+    linePrefix(where, text);
     text.append(argument.id);
     text.append('\t');
     text.append(std::to_string(argument.length));
     text.append('\t');
     text.append(std::to_string(argument.consumed));
     text.append('\t');
-    text.append(argument.text);
+    appendText(argument.text, text);
     text.append('\n');
   }
-  if (arguments.size() < types_.size())
-    return fail(where, prefix(arguments.size()) + decoding::notReachedProblem(arguments.size()),
-                output);
-  reportLeftover(where, arguments, output);
-  return true;
+  // The walk stops only after an argument with a fault: a record it cut short has one.
+  const std::string problem = decoding::firstFaultProblem(arguments, types_.size(), walker_.size());
+  if (!problem.empty()) return fail(where, problem, output);
+  return reportLeftover(where, arguments, output);
 }
 
 bool RecordPrinter::printText(const Where& where, Output& output) {
@@ -81,6 +112,7 @@ bool RecordPrinter::printText(const Where& where, Output& output) {
   // back what it printed.
   decoding::TextStream& text = output.text();
   const std::size_t start = text.size();
+  linePrefix(where, text);
   const bool gapped = options_.layout || types_.size() > 1;
   const auto arguments =
       walker_.walk(types_, text, gapped ? gaps() : std::span<std::string_view>());
@@ -93,10 +125,10 @@ bool RecordPrinter::printText(const Where& where, Output& output) {
     text.truncate(start);
     return fail(where, decoding::firstFaultProblem(arguments, types_.size(), recordSize), output);
   }
+  if (!options_.raw) escapeTexts(arguments, text);
   if (options_.layout) text.append(options_.layout->literal(types_.size()));
   text.append('\n');
-  reportLeftover(where, arguments, output);
-  return true;
+  return reportLeftover(where, arguments, output);
 }
 
 std::span<const std::string_view> RecordPrinter::gaps() {
@@ -111,10 +143,28 @@ std::span<const std::string_view> RecordPrinter::gaps() {
   return gaps_;
 }
 
-void RecordPrinter::reportLeftover(const Where& where,
+void RecordPrinter::linePrefix(const Where& where, decoding::TextStream& text) const {
+  if (options_.nameSource) {
+    text.append(where.source);
+    text.append(':');
+  }
+  if (options_.numberLines) {
+    text.append(std::to_string(where.line));
+    text.append(':');
+  }
+}
+
+void RecordPrinter::appendText(std::string_view text, decoding::TextStream& out) const {
+  if (options_.raw)
+    out.append(text);
+  else
+    appendEscaped(text, out);
+}
+
+bool RecordPrinter::reportLeftover(const Where& where,
                                    std::span<const decoding::Argument> arguments, Output& output) {
-  if (std::string problem = decoding::leftoverProblem(walker_, arguments); !problem.empty())
-    fail(where, problem, output);
+  const std::string problem = decoding::leftoverProblem(walker_, arguments);
+  return problem.empty() || fail(where, problem, output);
 }
 
 bool RecordPrinter::fail(const Where& where, const std::string& problem, Output& output) {
@@ -131,8 +181,10 @@ bool RecordPrinter::fail(const Where& where, const std::string& problem, Output&
   return false;
 }
 
-std::string RecordPrinter::prefix(std::size_t index) const {
-  return decoding::argumentPrefix(index + 1, types_.size(), types_[index].id);
+std::string RecordPrinter::unknownId(std::string_view id) {
+  const std::string nearest = nearestIds(id, host::registeredIds());
+  return decoding::formatterProblem(id, nullptr) +
+         (nearest.empty() ? " (ovfmt --list shows the ids)" : "; did you mean " + nearest + "?");
 }
 
 } // namespace Orvane::ovfmt

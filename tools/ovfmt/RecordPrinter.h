@@ -8,6 +8,7 @@
 #include "tools/ovfmt/Output.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,16 @@ struct PrintOptions {
   /// The record's line: the template filled in, else the texts joined by `separator`.
   std::optional<decoding::Template> layout;
   std::string separator = " ";
+  /// The formatters' texts as they made them, control characters included; otherwise
+  /// each control character prints as "\xNN" (see Escape.h).
+  bool raw = false;
+  /// Start every output line with "FILE:" (the source's name), then "LINE:" (its line).
+  bool nameSource = false;
+  bool numberLines = false;
+  /// One output line per input line: an empty one for a blank or comment line, and
+  /// `failedMarker` for a record that failed (its error still goes to stderr).
+  bool keepLines = false;
+  std::string failedMarker = "?";
 };
 
 /// Where a record came from, put into words only when a message names it (most records
@@ -29,6 +40,7 @@ struct PrintOptions {
 struct Where {
   std::string_view source; ///< the batch input's name, or the id list of the command line
   std::size_t line = 0;    ///< the batch line, 0 for a record on the command line
+  std::size_t hexColumn = 1; ///< where the hex starts in its line, for error columns
 };
 
 /// Formats records one after another; one printer serves one thread.
@@ -40,10 +52,24 @@ public:
   /// Formats the record `idList` ("ID[,ID...]") over the bytes of `hex` and appends what
   /// it prints to `output`: its text, or an error line "ovfmt: WHERE: PROBLEM" and no
   /// text when it failed. Bytes left after the last argument are reported after the
-  /// text, and do not make the record fail. Returns false when the record failed.
+  /// text, which stays, and make the record fail; so does, with --counts, an argument
+  /// that is invalid or runs past the bytes. Returns false when the record failed.
   bool print(const Where& where, std::string_view idList, std::string_view hex, Output& output);
+  /// print() over `bytes` instead of hex text.
+  bool print(const Where& where, std::string_view idList, std::span<const unsigned char> bytes,
+             Output& output);
+  /// Prints what a blank or comment line gives when the options keep every line: an
+  /// empty line, with its prefix.
+  void printSkipped(const Where& where, Output& output);
 
 private:
+  /// Prints the record loaded into walker_ as the options say.
+  bool printLoaded(const Where& where, Output& output) {
+    return options_.counts ? printCounts(where, output) : printText(where, output);
+  }
+  /// Ends a record that failed: when the options keep every line and it printed
+  /// nothing since `start`, prints the marker in its place. Returns false.
+  bool markFailed(const Where& where, std::size_t start, Output& output);
   /// Sets types_ to the arguments of `idList`; false when the record failed.
   bool resolve(const Where& where, std::string_view idList, Output& output);
   /// Whether the template, if any, has one placeholder for each of `count` arguments.
@@ -58,13 +84,18 @@ private:
   /// The text before each argument of the current record: the template's literals, or
   /// the separator between arguments (none before the first).
   std::span<const std::string_view> gaps();
-  /// Reports the bytes a finished walk left after the record's last argument, if any.
-  void reportLeftover(const Where& where, std::span<const decoding::Argument> arguments,
+  /// Starts an output line with what the options put before it: "FILE:", "LINE:".
+  void linePrefix(const Where& where, decoding::TextStream& text) const;
+  /// Appends a formatter's text, escaped unless the options say raw.
+  void appendText(std::string_view text, decoding::TextStream& out) const;
+  /// Reports the bytes a finished walk left after the record's last argument, if any;
+  /// returns false when it did.
+  bool reportLeftover(const Where& where, std::span<const decoding::Argument> arguments,
                       Output& output);
   /// Adds "ovfmt: WHERE: PROBLEM" as an error line; returns false for `return fail(...)`.
   bool fail(const Where& where, const std::string& problem, Output& output);
-  /// The "argument K of N (ID): " prefix of argument `index` (from 0) of types_.
-  std::string prefix(std::size_t index) const;
+  /// Why `id` is unknown, with the nearest known ids.
+  static std::string unknownId(std::string_view id);
 
   const PrintOptions& options_;
   decoding::TypeListCache typeLists_;

@@ -1,18 +1,18 @@
 // ovfmt: the command-line host. Loads formatter plug-ins and decodes records given as
-// "ID[,ID...] HEX..." on the command line or, with --batch, one per line of a file.
-#include "decoding/IdList.h"
+// "ID[,ID...] HEX..." on the command line, one per line of a batch, or as a hex dump.
 #include "decoding/Problems.h"
 #include "host/BaseTypes.h"
-#include "host/PluginLoader.h"
 #include "host/Registry.h"
 #include "tools/ovfmt/Batch.h"
 #include "tools/ovfmt/Describe.h"
+#include "tools/ovfmt/HexDump.h"
+#include "tools/ovfmt/Options.h"
+#include "tools/ovfmt/Plugins.h"
 #include "tools/ovfmt/RecordPrinter.h"
 #include "tools/ovfmt/Trace.h"
 
-#include <charconv>
+#include <cerrno>
 #include <climits>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <iostream>
@@ -23,53 +23,10 @@
 namespace {
 
 using namespace Orvane;
+using ovfmt::Mode;
+using ovfmt::Options;
 
 constexpr int kExitOk = 0, kExitValueFailed = 1, kExitUsage = 2;
-constexpr unsigned kMaxJobs = 256;
-
-const char kUsage[] =
-    "Usage: ovfmt [--plugin PATH]... [--counts | --sep TEXT | --template TEXT] ID[,ID...] HEX...\n"
-    "  or:  ovfmt [--plugin PATH]... [--counts | --sep TEXT | --template TEXT] [--jobs N]\n"
-    "             --batch [FILE|-]\n"
-    "  or:  ovfmt [--plugin PATH]... --list | --describe ID\n"
-    "\n"
-    "Formats binary trace values through the registered formatter plug-ins.\n"
-    "  ID HEX...        format one value: its type id, then its bytes as pairs of hex digits\n"
-    "                   (blanks and ':' may separate the pairs)\n"
-    "  ID,ID,... HEX... format a record: consecutive arguments, each starting where the one\n"
-    "                   before ends; their texts are printed on one line\n"
-    "  --batch FILE     format one record per line 'ID[,ID...] HEX...' of FILE, or of standard\n"
-    "                   input when FILE is '-' or absent; blank lines and '#' comments are\n"
-    "                   skipped\n"
-    "  --sep TEXT       put TEXT between the texts of a record's arguments (default: a blank)\n"
-    "  --template TEXT  print TEXT with each '{}' replaced by the next argument's text; '{{'\n"
-    "                   and '}}' print a brace; the '{}' must match the arguments one for one\n"
-    "  --counts         print 'ID<TAB>length<TAB>consumed<TAB>text' for every argument,\n"
-    "                   also invalid or incomplete ones (a record stops after the first\n"
-    "                   argument that is invalid or runs past the bytes)\n"
-    "  --jobs N         format a batch on N threads (default 1); the output is the same\n"
-    "  --list           print every plug-in id, sorted, then a blank line and the host's\n"
-    "                   base-type ids (u8 u16 u32 u64 x16 x32 bool str)\n"
-    "  --describe ID    print the reference of a plug-in id: fields, length, an example\n"
-    "  --plugin PATH    load this plug-in (a .so, or a directory of them) instead of the\n"
-    "                   default: every .so in $OVFMT_PLUGIN_DIR, else the one installed\n"
-    "                   beside ovfmt\n"
-    "  --help           print this help and exit\n"
-    "  --version        print the version and exit\n"
-    "Exit status: 0 every record printed, 1 a record failed, 2 usage or plug-in error.\n";
-
-struct Options {
-  std::vector<std::string> plugins;
-  bool list = false;
-  std::optional<std::string> describe; // the --describe id
-  bool batch = false;
-  std::string batchFile = "-";
-  unsigned jobs = 1;
-  bool separatorGiven = false;
-  std::optional<std::string> layout; // the --template text
-  ovfmt::PrintOptions print;
-  std::vector<std::string> record; // ID[,ID...] then HEX words
-};
 
 std::string defaultPlugin() {
   char self[PATH_MAX];
@@ -79,125 +36,9 @@ std::string defaultPlugin() {
   return exe.substr(0, exe.rfind('/') + 1) + ORVANE_PLUGIN_FROM_BIN;
 }
 
-bool loadPlugins(const Options& options) {
-  std::vector<host::LoadError> errors;
-  auto load = [&](const std::string& path) {
-    auto failed = host::loadPluginPath(path);
-    errors.insert(errors.end(), failed.begin(), failed.end());
-  };
-  if (!options.plugins.empty()) {
-    for (const auto& path : options.plugins) load(path);
-  } else if (const char* dir = std::getenv("OVFMT_PLUGIN_DIR")) {
-    errors = host::loadPluginDirectory(dir);
-  } else {
-    load(defaultPlugin());
-  }
-  for (const auto& error : errors)
-    std::cerr << "ovfmt: cannot load plug-in " << error.path << ": " << error.reason << "\n";
-  return errors.empty();
-}
-
 int usageError(const std::string& problem) {
-  std::cerr << "ovfmt: " << problem << "\n" << kUsage;
+  std::cerr << "ovfmt: " << problem << "\nTry 'ovfmt --help'.\n";
   return kExitUsage;
-}
-
-bool parseJobs(const char* text, unsigned& jobs) {
-  const char* end = text + std::strlen(text);
-  const auto [rest, error] = std::from_chars(text, end, jobs);
-  return error == std::errc() && rest == end && jobs >= 1 && jobs <= kMaxJobs;
-}
-
-// Checks the options that only make sense together; returns a usage problem or "".
-std::string conflicts(const Options& options) {
-  const int modes =
-      options.list + options.batch + !options.record.empty() + options.describe.has_value();
-  if (modes == 0) return "nothing to do: give ID HEX..., --batch or --list";
-  if (modes > 1) return "give only one of ID HEX..., --batch, --list and --describe";
-  if (options.separatorGiven && options.layout)
-    return "give --sep or --template, not both: the template holds the text between arguments";
-  if (options.print.counts && (options.separatorGiven || options.layout))
-    return "--counts prints a line per argument: --sep and --template do not apply";
-  if (options.jobs != 1 && !options.batch) return "--jobs applies to --batch only";
-  return "";
-}
-
-// Parses the template, and checks it against the record of the command line.
-std::string prepareTemplate(Options& options) {
-  if (!options.layout) return "";
-  std::string error;
-  options.print.layout = decoding::Template::parse(*options.layout, error);
-  if (!options.print.layout) return error;
-  if (options.record.empty()) return "";
-  std::vector<std::string_view> ids;
-  decoding::splitIdList(options.record.front(), ids);
-  if (options.print.layout->placeholders() == ids.size()) return "";
-  return decoding::placeholderCountProblem(options.print.layout->placeholders(), ids.size());
-}
-
-// Returns the exit status to stop with, or -1 to go on.
-int parse(int argc, char** argv, Options& options) {
-  for (int i = 1; i < argc; ++i) {
-    const std::string arg = argv[i];
-    auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
-    if (!options.record.empty()) {
-      options.record.push_back(arg);
-    } else if (arg == "--help" || arg == "-h") {
-      std::cout << kUsage;
-      return kExitOk;
-    } else if (arg == "--version") {
-      std::cout << "ovfmt " ORVANE_VERSION "\n";
-      return kExitOk;
-    } else if (arg == "--plugin") {
-      const char* path = value();
-      if (!path) return usageError("--plugin needs a path");
-      options.plugins.push_back(path);
-    } else if (arg == "--counts") {
-      options.print.counts = true;
-    } else if (arg == "--describe") {
-      if (const char* id = value())
-        options.describe = id;
-      else
-        return usageError("--describe needs an id");
-    } else if (arg == "--list") {
-      options.list = true;
-    } else if (arg == "--sep") {
-      const char* text = value();
-      if (!text) return usageError("--sep needs a text");
-      options.print.separator = text;
-      options.separatorGiven = true;
-    } else if (arg == "--template") {
-      const char* text = value();
-      if (!text) return usageError("--template needs a text");
-      options.layout = text;
-    } else if (arg == "--jobs") {
-      const char* count = value();
-      if (!count || !parseJobs(count, options.jobs))
-        return usageError("--jobs needs a number from 1 to " + std::to_string(kMaxJobs));
-    } else if (arg == "--batch") {
-      options.batch = true;
-      // The file is optional: the next word is it unless it is another option.
-      if (i + 1 < argc && (argv[i + 1][0] != '-' || std::strcmp(argv[i + 1], "-") == 0))
-        options.batchFile = argv[++i];
-    } else if (arg.size() > 1 && arg[0] == '-') {
-      return usageError("unknown option " + decoding::printable(arg));
-    } else if (options.batch) {
-      return usageError("--batch takes one FILE");
-    } else {
-      options.record.push_back(arg);
-    }
-  }
-  if (std::string problem = conflicts(options); !problem.empty()) return usageError(problem);
-  if (std::string problem = prepareTemplate(options); !problem.empty()) return usageError(problem);
-  return -1;
-}
-
-// Plug-in ids first, then, apart after a blank line, the host's base-type ids.
-void listIds() {
-  for (const auto& id : host::registeredIds())
-    if (!host::isBaseTypeId(id)) std::cout << id << "\n";
-  std::cout << "\n";
-  for (const auto id : host::baseTypeIds()) std::cout << id << "\n";
 }
 
 // Reports output that could not be written (a full disk, a closed pipe).
@@ -206,36 +47,117 @@ int writeFailed(const std::string& reason) {
   return kExitValueFailed;
 }
 
+// Writes what `output` holds; `status` unless the writing fails.
+int writeOut(ovfmt::Output& output, int status) {
+  if (!output.writeTo(STDOUT_FILENO, STDERR_FILENO)) return writeFailed(std::strerror(errno));
+  return status;
+}
+
+int printText(std::string_view text) {
+  ovfmt::Output output;
+  output.text().append(text);
+  return writeOut(output, kExitOk);
+}
+
+// Plug-in ids first, then, apart after a blank line, the host's base-type ids.
+int listIds() {
+  ovfmt::Output output;
+  for (const auto& id : host::registeredIds()) {
+    if (host::isBaseTypeId(id)) continue;
+    output.text().append(id);
+    output.text().append('\n');
+  }
+  output.text().append('\n');
+  for (const auto id : host::baseTypeIds()) {
+    output.text().append(id);
+    output.text().append('\n');
+  }
+  return writeOut(output, kExitOk);
+}
+
 int formatRecord(const Options& options) {
   std::string hex;
-  for (std::size_t i = 1; i < options.record.size(); ++i) hex += options.record[i] + " ";
-  const std::string& ids = options.record.front();
+  for (std::size_t i = 1; i < options.positional.size(); ++i) hex += options.positional[i] + " ";
+  const std::string& ids = options.positional.front();
   const std::string shown = decoding::printable(ids);
   ovfmt::RecordPrinter printer(options.print);
   ovfmt::Output output;
   const bool printed = printer.print({shown}, ids, hex, output);
-  if (!output.writeTo(STDOUT_FILENO, STDERR_FILENO)) return writeFailed(std::strerror(errno));
-  return printed ? kExitOk : kExitValueFailed;
+  return writeOut(output, printed ? kExitOk : kExitValueFailed);
 }
 
-int formatBatch(const Options& options) {
-  const bool fromStdin = options.batchFile == "-";
-  const int in = fromStdin ? STDIN_FILENO : open(options.batchFile.c_str(), O_RDONLY | O_CLOEXEC);
-  if (in < 0) {
-    std::cerr << "ovfmt: cannot open " << options.batchFile << "\n";
-    return kExitUsage;
+// An input file opened for reading, or standard input for "-".
+struct Input {
+  std::string name; ///< as messages name it
+  int fd = -1;
+  explicit Input(const std::string& path)
+      : name(path == "-" ? "<stdin>" : path),
+        fd(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (fd < 0) std::cerr << "ovfmt: cannot open " << path << ": " << std::strerror(errno) << "\n";
   }
-  const std::string name = fromStdin ? "<stdin>" : options.batchFile;
+  ~Input() {
+    if (fd > STDERR_FILENO) close(fd);
+  }
+  Input(const Input&) = delete;
+  Input& operator=(const Input&) = delete;
+};
+
+int formatBatchFile(const Options& options, const std::string& path) {
+  const Input in(path);
+  if (in.fd < 0) return kExitUsage;
   const auto summary =
-      ovfmt::formatBatch(in, name, options.print, options.jobs, STDOUT_FILENO, STDERR_FILENO);
-  if (!fromStdin) close(in);
+      ovfmt::formatBatch(in.fd, in.name, options.print, options.jobs, STDOUT_FILENO, STDERR_FILENO);
   if (!summary.writeError.empty()) return writeFailed(summary.writeError);
   if (!summary.readError.empty()) {
-    std::cerr << "ovfmt: cannot read " << name << ": " << summary.readError << "\n";
+    std::cerr << "ovfmt: cannot read " << in.name << ": " << summary.readError << "\n";
     return kExitUsage;
   }
-  if (summary.records == 0) std::cerr << "ovfmt: " << name << ": no values to format\n";
+  if (summary.records == 0) std::cerr << "ovfmt: " << in.name << ": no values to format\n";
   return summary.allPrinted ? kExitOk : kExitValueFailed;
+}
+
+// Each FILE in turn (standard input when none is given); the worst status of them.
+int formatBatch(const Options& options) {
+  const std::vector<std::string> files =
+      options.positional.empty() ? std::vector<std::string>{"-"} : options.positional;
+  int status = kExitOk;
+  for (const auto& file : files) status = std::max(status, formatBatchFile(options, file));
+  return status;
+}
+
+// Everything `fd` holds; false (with `error` set) when a read fails.
+bool readAll(int fd, std::string& text, std::string& error) {
+  char block[65536];
+  for (ssize_t n; (n = read(fd, block, sizeof block)) != 0;) {
+    if (n > 0) {
+      text.append(block, static_cast<std::size_t>(n));
+    } else if (errno != EINTR) {
+      error = std::strerror(errno);
+      return false;
+    }
+  }
+  return true;
+}
+
+int formatHexDump(const Options& options) {
+  const Input in(options.positional.size() > 1 ? options.positional[1] : "-");
+  if (in.fd < 0) return kExitUsage;
+  std::string dump, error;
+  if (!readAll(in.fd, dump, error)) {
+    std::cerr << "ovfmt: cannot read " << in.name << ": " << error << "\n";
+    return kExitUsage;
+  }
+  std::vector<unsigned char> bytes;
+  if (!ovfmt::readHexDump(dump, bytes, error)) {
+    std::cerr << "ovfmt: " << in.name << ": " << error << "\n";
+    return kExitValueFailed;
+  }
+  const std::string& ids = options.positional.front();
+  const std::string shown = decoding::printable(ids);
+  ovfmt::RecordPrinter printer(options.print);
+  ovfmt::Output output;
+  const bool printed = printer.print({shown}, ids, bytes, output);
+  return writeOut(output, printed ? kExitOk : kExitValueFailed);
 }
 
 } // namespace
@@ -243,18 +165,25 @@ int formatBatch(const Options& options) {
 int main(int argc, char** argv) {
   Options options;
   if (ovfmt::isTraceCommand(argc, argv))
-    return ovfmt::runTrace(argc, argv, [&](const std::vector<std::string>& plugins) {
-      options.plugins = plugins;
-      return loadPlugins(options) && (host::registerBaseTypes(), true);
+    return ovfmt::runTrace(argc, argv, [](const std::vector<std::string>& plugins) {
+      if (!ovfmt::loadPlugins(plugins, true, defaultPlugin())) return false;
+      host::registerBaseTypes();
+      return true;
     });
-  if (int status = parse(argc, argv, options); status >= 0) return status;
-  if (!loadPlugins(options)) return kExitUsage;
+  if (std::string problem = ovfmt::readOptions(argc, argv, options); !problem.empty())
+    return usageError(problem);
+  if (options.help) return printText(ovfmt::helpText());
+  if (options.version) return printText("ovfmt " ORVANE_VERSION "\n");
+  if (!ovfmt::loadPlugins(options.plugins, options.defaultPlugin, defaultPlugin()))
+    return kExitUsage;
   host::registerBaseTypes();
 
-  if (options.describe) return ovfmt::describe(*options.describe, std::cout, std::cerr);
-  if (options.list) {
-    listIds();
-    return kExitOk;
+  switch (options.mode) {
+  case Mode::List: return listIds();
+  case Mode::Describe: return ovfmt::describe(options.positional.front(), std::cout, std::cerr);
+  case Mode::Batch: return formatBatch(options);
+  case Mode::HexDump: return formatHexDump(options);
+  case Mode::Record: break;
   }
-  return options.batch ? formatBatch(options) : formatRecord(options);
+  return formatRecord(options);
 }
