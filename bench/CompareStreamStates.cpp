@@ -27,7 +27,7 @@
 #include "decoding/GuardedBuffer.h"
 #include "registry/FormatMap.h"
 #include "tests/support/RandomValues.h"
-#include "tests/support/StreamStates.h"
+#include "bench/StreamStates.h"
 
 #include <dlfcn.h>
 #include <fstream>

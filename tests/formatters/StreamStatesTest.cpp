@@ -4,7 +4,7 @@
 // that refuse text). Each line freezes a digest of the texts, counts and streams
 // afterwards in every state, so a change in how literals meet a caller's width, or any
 // other stream-state behaviour, fails here and names the value whose output drifted.
-#include "tests/support/StreamStates.h"
+#include "bench/StreamStates.h"
 #include "host/Registry.h"
 
 #include <gtest/gtest.h>

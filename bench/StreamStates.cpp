@@ -1,4 +1,4 @@
-#include "tests/support/StreamStates.h"
+#include "bench/StreamStates.h"
 
 #include "decoding/GuardedBuffer.h"
 #include "tools/ovfmt/BatchLine.h"
