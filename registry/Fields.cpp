@@ -1,7 +1,5 @@
 #include "registry/Fields.h"
 
-#include "registry/Formatter.h"
-
 namespace Orvane {
 
 unsigned printFields(const LabeledField* field, const unsigned char* p, unsigned off,
@@ -28,18 +26,6 @@ unsigned formatFields(const LabeledField* fields, const unsigned char* p, std::o
 unsigned measureFields(const LabeledField* field, const unsigned char* p, unsigned off) {
   for (; field->kind; ++field) off += field->kind->length(at(p, off));
   return off;
-}
-
-unsigned printVariant(VariantBody body, const unsigned char* p, TextRun& text) {
-  return body.rows ? printFields(body.rows, p, body.start, text) : kInvalidLength;
-}
-
-unsigned formatVariant(VariantBody body, const unsigned char* p, std::ostream& os) {
-  return body.rows ? formatFields(body.rows, p, os, body.start) : kInvalidLength;
-}
-
-unsigned lengthVariant(VariantBody body, const unsigned char* p) {
-  return body.rows ? measureFields(body.rows, p, body.start) : kInvalidLength;
 }
 
 } // namespace Orvane

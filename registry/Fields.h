@@ -34,6 +34,7 @@
 
 #include "registry/Bytes.h"
 #include "registry/FieldKind.h"
+#include "registry/Formatter.h"
 #include "registry/TextRun.h"
 
 #include <cstddef>
@@ -66,13 +67,19 @@ struct VariantBody {
 };
 
 /// printFields() over the variant's table; kInvalidLength, printing nothing, without one.
-unsigned printVariant(VariantBody body, const unsigned char* p, TextRun& text);
+inline unsigned printVariant(VariantBody body, const unsigned char* p, TextRun& text) {
+  return body.rows ? printFields(body.rows, p, body.start, text) : kInvalidLength;
+}
 
 /// printVariant() on a run of its own, inserted before returning.
-unsigned formatVariant(VariantBody body, const unsigned char* p, std::ostream& os);
+inline unsigned formatVariant(VariantBody body, const unsigned char* p, std::ostream& os) {
+  return body.rows ? formatFields(body.rows, p, os, body.start) : kInvalidLength;
+}
 
 /// The final offset of the same walk, printing nothing; kInvalidLength without a table.
-unsigned lengthVariant(VariantBody body, const unsigned char* p);
+inline unsigned lengthVariant(VariantBody body, const unsigned char* p) {
+  return body.rows ? measureFields(body.rows, p, body.start) : kInvalidLength;
+}
 
 namespace detail {
 
