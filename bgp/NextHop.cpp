@@ -114,9 +114,11 @@ constexpr FieldLayout kNextHopLayouts[] = {
     /* 32 */ evpnNextHop(kL2AttrsV3, kEtreeLeafLabel),
 };
 
-const FieldLayout& nextHopLayout(const unsigned char* p) {
+// The body the type picks; an unknown type prints NULL.
+VariantBody nextHopBody(const unsigned char* p) {
   const unsigned type = p[kTypeOffset];
-  return type < std::size(kNextHopLayouts) ? kNextHopLayouts[type] : kNullNextHop;
+  return {(type < std::size(kNextHopLayouts) ? kNextHopLayouts[type] : kNullNextHop).fields,
+          kBodyOffset};
 }
 
 const char* vrfKindName(unsigned char kind) {
@@ -142,7 +144,7 @@ void printBgpVrfId(const unsigned char* p, TextRun& text) {
 }
 
 unsigned appendBgpGenNextHop(const unsigned char* p, TextRun& text) {
-  const unsigned count = printFields(nextHopLayout(p).fields, p, kBodyOffset, text);
+  const unsigned count = printVariant(nextHopBody(p), p, text);
   text << " (";
   printBgpVrfId(p, text);
   text << ")";
@@ -152,8 +154,6 @@ unsigned formatBgpGenNextHop(const unsigned char* p, std::ostream& os) {
   return formatThroughRun<appendBgpGenNextHop>(p, os);
 }
 
-unsigned lengthBgpGenNextHop(const unsigned char* p) {
-  return measureFields(nextHopLayout(p).fields, p, kBodyOffset);
-}
+unsigned lengthBgpGenNextHop(const unsigned char* p) { return lengthVariant(nextHopBody(p), p); }
 
 } // namespace Orvane

@@ -33,9 +33,11 @@ constexpr FieldLayout kPeerKeyLayouts[] = {
     /* 7 */ {{{"", &kIpGenAddrOptField}, kIpv4InParentheses}, ")"},
 };
 
-const FieldLayout& peerKeyLayout(const unsigned char* p) {
+// The body the type picks; an unknown type prints nothing.
+VariantBody peerKeyBody(const unsigned char* p) {
   static constexpr FieldLayout kNoBody{};
-  return p[0] < std::size(kPeerKeyLayouts) ? kPeerKeyLayouts[p[0]] : kNoBody;
+  return {(p[0] < std::size(kPeerKeyLayouts) ? kPeerKeyLayouts[p[0]] : kNoBody).fields,
+          kPeerBodyOffset};
 }
 
 unsigned short bmpAfi(const unsigned char* p) { return load<uint16_t>(p); }
@@ -49,11 +51,9 @@ constexpr FieldVariants kBgpPeerKeyVariants{
     [](unsigned type) -> const LabeledField* { return kPeerKeyLayouts[type].fields; }};
 
 unsigned formatBgpPeerKey(const unsigned char* p, std::ostream& os) {
-  return formatFields(peerKeyLayout(p).fields, p, os, kPeerBodyOffset);
+  return formatVariant(peerKeyBody(p), p, os);
 }
-unsigned lengthBgpPeerKey(const unsigned char* p) {
-  return measureFields(peerKeyLayout(p).fields, p, kPeerBodyOffset);
-}
+unsigned lengthBgpPeerKey(const unsigned char* p) { return lengthVariant(peerKeyBody(p), p); }
 
 // The peer's name is the host's to print.
 unsigned appendBmpRouteKey(const unsigned char* p, TextRun& text) {

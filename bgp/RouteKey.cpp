@@ -13,10 +13,7 @@ unsigned formatBgpRouteKey(unsigned short afi, unsigned short safi, const unsign
 
 unsigned appendBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key,
                            TextRun& text) {
-  const RouteKeyLayout* layout = findRouteKeyLayout(afi, safi, key);
-  if (!layout)
-    return kInvalidLength;
-  return printFields(layout->fields.fields, key, layout->firstFieldOffset(), text);
+  return printVariant(routeKeyBody(afi, safi, key), key, text);
 }
 
 } // namespace Orvane

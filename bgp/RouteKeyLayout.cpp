@@ -273,22 +273,20 @@ constexpr FieldVariants kBgpRouteKeyVariants{
     [](unsigned row) -> const LabeledField* { return kRouteKeyLayouts[row].fields.fields; },
     writeLayoutName};
 
-const RouteKeyLayout* findRouteKeyLayout(unsigned short afi, unsigned short safi,
-                                         const unsigned char* key) {
+VariantBody routeKeyBody(unsigned short afi, unsigned short safi, const unsigned char* key) {
   for (const AfiRows& rows : kAfiRows) {
     if (rows.afi != afi) continue;
-    for (std::size_t i = rows.begin; i < rows.end; ++i)
-      if (matches(kRouteKeyLayouts[i], safi, key)) return &kRouteKeyLayouts[i];
-    return nullptr;
+    for (std::size_t i = rows.begin; i < rows.end; ++i) {
+      const RouteKeyLayout& layout = kRouteKeyLayouts[i];
+      if (matches(layout, safi, key)) return {layout.fields.fields, layout.firstFieldOffset()};
+    }
+    return {};
   }
-  return nullptr;
+  return {};
 }
 
 unsigned lengthBgpRouteKey(unsigned short afi, unsigned short safi, const unsigned char* key) {
-  const RouteKeyLayout* layout = findRouteKeyLayout(afi, safi, key);
-  if (!layout)
-    return kInvalidLength;
-  return measureFields(layout->fields.fields, key, layout->firstFieldOffset());
+  return lengthVariant(routeKeyBody(afi, safi, key), key);
 }
 
 } // namespace Orvane

@@ -37,10 +37,9 @@ struct RouteKeyLayout {
   constexpr unsigned firstFieldOffset() const { return letter == kNoLetter ? 0 : 1; }
 };
 
-/// The layout of the key at `key` in (afi, safi), reading the letter at key[0] where the
-/// family has letters; nullptr for a combination without a layout.
-const RouteKeyLayout* findRouteKeyLayout(unsigned short afi, unsigned short safi,
-                                         const unsigned char* key);
+/// The body of the key at `key` in (afi, safi): its layout's fields, after the letter at
+/// key[0] where the family has letters; no table for a combination without a layout.
+VariantBody routeKeyBody(unsigned short afi, unsigned short safi, const unsigned char* key);
 
 /// Bytes the route key at `key` occupies in (afi, safi); 0xFFFFFFFF for an AFI other than
 /// ipv4, ipv6, l2vpn, linkState and 48bitMac, an l2vpn SAFI other than evpn, vpls,

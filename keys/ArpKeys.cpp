@@ -24,30 +24,38 @@ unsigned lengthArpInputConfigKey(const unsigned char* p) {
 }
 
 // An entry: the key and the MAC, then the flag and a number; the flag alone decides
-// whether two more numbers follow.
+// whether two more numbers follow, so an entry has two layouts and the flag picks one.
 constexpr FieldKind kArpInputConfigKeyField{formatArpInputConfigKey, lengthArpInputConfigKey,
                                             nullptr, "ARP input configuration key (ARPICK)"};
-constexpr LabeledField kEntryAddresses[] = {
-    {"", &kArpInputConfigKeyField}, {"[", &kEthField}, {"]["}};
-constexpr LabeledField kEntryNumbers[] = {{"", &kU8Field}, {"][", &kU32Field}, {""}};
-constexpr LabeledField kEntryExtension[] = {{"][", &kU32Field}, {"][", &kU32Field}, {""}};
+constexpr LabeledField kEntryKey{"", &kArpInputConfigKeyField};
+constexpr LabeledField kEntryMac{"[", &kEthField};
+constexpr LabeledField kEntryFlag{"][", &kU8Field};
+constexpr LabeledField kEntryNumber{"][", &kU32Field};
+constexpr FieldLayout kEntryLayouts[] = {
+    /* plain */ {{kEntryKey, kEntryMac, kEntryFlag, kEntryNumber}, "]"},
+    /* extended */
+    {{kEntryKey, kEntryMac, kEntryFlag, kEntryNumber, kEntryNumber, kEntryNumber}, "]"},
+};
+// Where the flag is: after the key and the MAC.
+constexpr LabeledField kEntryAddresses[] = {kEntryKey, kEntryMac, {""}};
+
+namespace {
+
+VariantBody entryBody(const unsigned char* p) {
+  const bool extended = at(p, lengthTable<kEntryAddresses>(p))[0] == kExtendedEntry;
+  return {kEntryLayouts[extended ? 1 : 0].fields};
+}
+
+} // namespace
 
 unsigned appendArpInputConfigEntry(const unsigned char* p, TextRun& text) {
-  unsigned off = printFields(kEntryAddresses, p, 0, text);
-  const bool extended = at(p, off)[0] == kExtendedEntry;
-  off = printFields(kEntryNumbers, p, off, text);
-  if (extended) off = printFields(kEntryExtension, p, off, text);
-  text << "]";
-  return off;
+  return printVariant(entryBody(p), p, text);
 }
 unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os) {
   return formatThroughRun<appendArpInputConfigEntry>(p, os);
 }
 unsigned lengthArpInputConfigEntry(const unsigned char* p) {
-  unsigned off = measureFields(kEntryAddresses, p);
-  const bool extended = at(p, off)[0] == kExtendedEntry;
-  off = measureFields(kEntryNumbers, p, off);
-  return extended ? measureFields(kEntryExtension, p, off) : off;
+  return lengthVariant(entryBody(p), p);
 }
 
 constexpr LabeledField kArpInputPriorityKeyRows[] = {{"[", &kU8Field}, {"][", &kU32Field}, {"]"}};

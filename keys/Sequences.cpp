@@ -24,45 +24,6 @@ FormatPtr elementFormatter(unsigned char width) {
   }
 }
 
-// Range kinds and the formatters of the bodies that differ between "GR" and "GRO".
-enum RangeKind : unsigned char { kNoRange = 0, kPrefixRange = 1, kSequenceRange = 2,
-                                 kAddressPairRange = 255 };
-constexpr unsigned kRangeHeader = 1;
-
-struct RangeBodies {
-  FormatPtr formatPrefix;
-  LengthPtr lengthPrefix;
-  FormatPtr formatAddressPair;
-  LengthPtr lengthAddressPair;
-};
-constexpr RangeBodies kFullBodies{formatIpGenPrefix, lengthIpGenPrefix,
-                                  formatIpGenAddrWithFullMask, lengthIpGenAddrWithFullMask};
-constexpr RangeBodies kOptimizedBodies{formatIpGenPrefixOptimized, lengthIpGenPrefixOptimized,
-                                       formatIpGenAddrOptWithFullMask,
-                                       lengthIpGenAddrWithFullMaskOpt};
-
-unsigned formatRange(const unsigned char* p, std::ostream& os, const RangeBodies& bodies) {
-  const unsigned char* body = p + kRangeHeader;
-  switch (p[0]) {
-  case kNoRange: os << "n/a"; return kRangeHeader;
-  case kPrefixRange: return kRangeHeader + bodies.formatPrefix(body, os);
-  case kSequenceRange: return kRangeHeader + formatUnsignedSequence(body, os);
-  case kAddressPairRange: return kRangeHeader + bodies.formatAddressPair(body, os);
-  default: return kInvalidLength;
-  }
-}
-
-unsigned measureRange(const unsigned char* p, const RangeBodies& bodies) {
-  const unsigned char* body = p + kRangeHeader;
-  switch (p[0]) {
-  case kNoRange: return kRangeHeader;
-  case kPrefixRange: return kRangeHeader + bodies.lengthPrefix(body);
-  case kSequenceRange: return kRangeHeader + lengthUnsignedSequence(body);
-  case kAddressPairRange: return kRangeHeader + bodies.lengthAddressPair(body);
-  default: return kInvalidLength;
-  }
-}
-
 } // namespace
 
 unsigned formatUnsignedSequence(const unsigned char* p, std::ostream& os) {
@@ -116,16 +77,71 @@ unsigned formatIdSet(const unsigned char* p, std::ostream& os) {
 }
 unsigned lengthIdSet(const unsigned char* p) { return kIdSetEntrySize * p[0] + 1; }
 
-unsigned formatGenRange(const unsigned char* p, std::ostream& os) {
-  return formatRange(p, os, kFullBodies);
+// The bodies of "GR" and "GRO" after the kind byte, indexed by the kind: none, a prefix,
+// a sequence, and at kind 255 an address and its mask; the other kinds have none.
+constexpr FieldKind kUnsignedSequenceField{formatUnsignedSequence,
+                                           lengthUnsignedSequence,
+                                           nullptr,
+                                           "unsigned sequence (US)",
+                                           0,
+                                           "2 + a width byte and that many bytes per element"};
+constexpr FieldKind kAddressMaskField{formatIpGenAddrWithFullMask, lengthIpGenAddrWithFullMask,
+                                      nullptr, "generic address and mask (IGM)", 42};
+constexpr FieldKind kAddressMaskOptField{formatIpGenAddrOptWithFullMask,
+                                         lengthIpGenAddrWithFullMaskOpt,
+                                         nullptr,
+                                         "generic address and mask, Opt form (IGMO)",
+                                         0,
+                                         "the two Opt lengths added"};
+constexpr LabeledField kNoRange[] = {{"n/a"}};
+constexpr LabeledField kSequenceRange[] = {{"", &kUnsignedSequenceField}, {""}};
+constexpr LabeledField kPrefixRange[] = {{"", &kIpGenPrefixField}, {""}};
+constexpr LabeledField kAddressMaskRange[] = {{"", &kAddressMaskField}, {""}};
+constexpr LabeledField kPrefixRangeOpt[] = {{"", &kIpGenPrefixOptimizedField}, {""}};
+constexpr LabeledField kAddressMaskRangeOpt[] = {{"", &kAddressMaskOptField}, {""}};
+constexpr unsigned kAddressMaskKind = 255;
+
+namespace {
+
+// The body of `kind` in the form whose prefix and address-and-mask bodies are given.
+template <const LabeledField* Prefix, const LabeledField* AddressMask>
+const LabeledField* rangeVariant(unsigned kind) {
+  constexpr const LabeledField* kBodies[] = {kNoRange, Prefix, kSequenceRange};
+  if (kind < std::size(kBodies)) return kBodies[kind];
+  return kind == kAddressMaskKind ? AddressMask : nullptr;
 }
-unsigned lengthGenRange(const unsigned char* p) { return measureRange(p, kFullBodies); }
+
+constexpr const char* kRangeCode =
+    "the kind (byte 0), the body starting at byte 1 (kinds 3 to 254 are invalid)";
+
+} // namespace
+
+constexpr FieldVariants kGenRangeVariants{kRangeCode, kAddressMaskKind + 1,
+                                          rangeVariant<kPrefixRange, kAddressMaskRange>};
+constexpr FieldVariants kGenRangeOptimizedVariants{
+    kRangeCode, kAddressMaskKind + 1, rangeVariant<kPrefixRangeOpt, kAddressMaskRangeOpt>};
+
+namespace {
+
+// The body the kind byte picks; an invalid kind has none.
+VariantBody rangeBody(const unsigned char* p, const FieldVariants& variants) {
+  return {variants.body(p[0]), 1};
+}
+
+} // namespace
+
+unsigned formatGenRange(const unsigned char* p, std::ostream& os) {
+  return formatVariant(rangeBody(p, kGenRangeVariants), p, os);
+}
+unsigned lengthGenRange(const unsigned char* p) {
+  return lengthVariant(rangeBody(p, kGenRangeVariants), p);
+}
 
 unsigned formatGenRangeOptimized(const unsigned char* p, std::ostream& os) {
-  return formatRange(p, os, kOptimizedBodies);
+  return formatVariant(rangeBody(p, kGenRangeOptimizedVariants), p, os);
 }
 unsigned lengthGenRangeOptimized(const unsigned char* p) {
-  return measureRange(p, kOptimizedBodies);
+  return lengthVariant(rangeBody(p, kGenRangeOptimizedVariants), p);
 }
 
 } // namespace Orvane

@@ -12,6 +12,7 @@
 #pragma once
 
 #include "registry/Export.h"
+#include "registry/FieldKind.h"
 
 #include <ostream>
 
@@ -43,6 +44,9 @@ ORVANE_API unsigned lengthIdSet(const unsigned char* p);
 ORVANE_API unsigned formatGenRange(const unsigned char* p, std::ostream& os);
 /// 1, 19, 1 + the "US" length, 43 or 0xFFFFFFFF by kind.
 ORVANE_API unsigned lengthGenRange(const unsigned char* p);
+/// The bodies of "GR" and "GRO" by kind, for the reference (FieldKind.h).
+ORVANE_API extern const FieldVariants kGenRangeVariants;
+ORVANE_API extern const FieldVariants kGenRangeOptimizedVariants;
 
 /// "GRO": as "GR" with the prefix as "PGO" and the addresses as "IGO", the second
 /// starting where the first ends.

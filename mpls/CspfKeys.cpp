@@ -56,13 +56,21 @@ constexpr FieldVariants kCspfClientPathKeyVariants{
     "the kind (byte 0), the body starting at byte 1 (any other kind is invalid)",
     std::size(kClientPathBodies), [](unsigned kind) { return kClientPathBodies[kind]; }};
 
+namespace {
+
+// The body the kind byte picks; any other kind has none.
+VariantBody clientPathBody(const unsigned char* p) {
+  if (p[0] >= std::size(kClientPathBodies)) return {};
+  return {kClientPathBodies[p[0]], 1};
+}
+
+} // namespace
+
 unsigned formatCspfClientPathKey(const unsigned char* p, std::ostream& os) {
-  if (p[0] >= std::size(kClientPathBodies)) return kInvalidLength;
-  return formatFields(kClientPathBodies[p[0]], p, os, 1);
+  return formatVariant(clientPathBody(p), p, os);
 }
 unsigned lengthCspfClientPathKey(const unsigned char* p) {
-  if (p[0] >= std::size(kClientPathBodies)) return kInvalidLength;
-  return measureFields(kClientPathBodies[p[0]], p, 1);
+  return lengthVariant(clientPathBody(p), p);
 }
 
 constexpr LabeledField kCspfP2mpPathKeyRows[] = {{"id=", &kU32FixedField}, {""}};

@@ -28,9 +28,10 @@ constexpr LabeledField kPrefixAlgoOpt[] = {
     {"PFXALGO[", &kIpGenPrefixOptimizedField}, {", ", &kU32Field}, {"]"}};
 constexpr const LabeledField* kFecBodiesOptimized[] = {kPrefixOpt, kRsvp, kMldpOpt, kPrefixAlgoOpt};
 
-// The body of an unknown type; its count is the invalid one.
-const LabeledField* fecBody(const unsigned char* p, const LabeledField* const (&bodies)[4]) {
-  return p[0] < std::size(bodies) ? bodies[p[0]] : nullptr;
+// The body the type picks; an unknown type has none and its count is the invalid one.
+VariantBody fecBody(const unsigned char* p, const LabeledField* const (&bodies)[4]) {
+  if (p[0] >= std::size(bodies)) return {};
+  return {bodies[p[0]], 1};
 }
 
 } // namespace
@@ -43,21 +44,17 @@ constexpr FieldVariants kMplsFwdEqvClassOptimizedVariants{
     std::size(kFecBodiesOptimized), [](unsigned type) { return kFecBodiesOptimized[type]; }};
 
 unsigned formatMplsFwdEqvClass(const unsigned char* p, std::ostream& os) {
-  const LabeledField* body = fecBody(p, kFecBodies);
-  return body ? formatFields(body, p, os, 1) : kInvalidLength;
+  return formatVariant(fecBody(p, kFecBodies), p, os);
 }
 unsigned lengthMplsFwdEqvClass(const unsigned char* p) {
-  const LabeledField* body = fecBody(p, kFecBodies);
-  return body ? measureFields(body, p, 1) : kInvalidLength;
+  return lengthVariant(fecBody(p, kFecBodies), p);
 }
 
 unsigned formatMplsFwdEqvClassOptimized(const unsigned char* p, std::ostream& os) {
-  const LabeledField* body = fecBody(p, kFecBodiesOptimized);
-  return body ? formatFields(body, p, os, 1) : kInvalidLength;
+  return formatVariant(fecBody(p, kFecBodiesOptimized), p, os);
 }
 unsigned lengthMplsFwdEqvClassOptimized(const unsigned char* p) {
-  const LabeledField* body = fecBody(p, kFecBodiesOptimized);
-  return body ? measureFields(body, p, 1) : kInvalidLength;
+  return lengthVariant(fecBody(p, kFecBodiesOptimized), p);
 }
 
 } // namespace Orvane

@@ -3,7 +3,8 @@
 // Each field starts at the running sum of the counts the earlier fields returned, and
 // the walk returns the final sum. formatFields() and measureFields() take the same table
 // and advance by the same fields, so a key's text and its size come from one list;
-// formatTable and lengthTable are a table's two functions:
+// formatTable and lengthTable are a table's two functions, formatVariant and
+// lengthVariant a variant composite's (one table of several, picked by the value):
 //
 //   unsigned formatMacVlanPair(const unsigned char* p, std::ostream& os) {
 //     return formatTable<kMacVlanPairRows>(p, os);
@@ -33,6 +34,7 @@
 
 #include "registry/Bytes.h"
 #include "registry/FieldKind.h"
+#include "registry/Formatter.h"
 #include "registry/TextRun.h"
 
 #include <cstddef>
@@ -53,6 +55,31 @@ unsigned formatFields(const LabeledField* fields, const unsigned char* p, std::o
 
 /// The final offset of the same walk, printing nothing.
 unsigned measureFields(const LabeledField* fields, const unsigned char* p, unsigned start = 0);
+
+/// The body a variant composite's bytes hold (FieldVariants in FieldKind.h): the table of
+/// the variant its code picks and the offset of that table's first field; no table when
+/// the bytes hold no variant, and the value is then invalid. A composite states its
+/// variants once, in the array its selector indexes, and the variant walks below print
+/// and measure whichever one the selector picks.
+struct VariantBody {
+  const LabeledField* rows = nullptr;
+  unsigned start = 0;
+};
+
+/// printFields() over the variant's table; kInvalidLength, printing nothing, without one.
+inline unsigned printVariant(VariantBody body, const unsigned char* p, TextRun& text) {
+  return body.rows ? printFields(body.rows, p, body.start, text) : kInvalidLength;
+}
+
+/// printVariant() on a run of its own, inserted before returning.
+inline unsigned formatVariant(VariantBody body, const unsigned char* p, std::ostream& os) {
+  return body.rows ? formatFields(body.rows, p, os, body.start) : kInvalidLength;
+}
+
+/// The final offset of the same walk, printing nothing; kInvalidLength without a table.
+inline unsigned lengthVariant(VariantBody body, const unsigned char* p) {
+  return body.rows ? measureFields(body.rows, p, body.start) : kInvalidLength;
+}
 
 namespace detail {
 

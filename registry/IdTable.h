@@ -275,10 +275,10 @@ inline constexpr IdEntry kIdTable[] = {
     {"GR", formatGenRange, lengthGenRange, "generic range", nullptr,
      "1 + the body its kind byte names (1, 19, 1 + a US sequence or 43 in all); invalid for any "
      "other kind",
-     "01 01 0a 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 08"},
+     "01 01 0a 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 08", &kGenRangeVariants},
     {"GRO", formatGenRangeOptimized, lengthGenRangeOptimized, "generic range, compact form",
      nullptr, "1 + the body its kind byte names; invalid for any other kind",
-     "ff 01 01 00 00 0a 01 64 00 00 0a"},
+     "ff 01 01 00 00 0a 01 64 00 00 0a", &kGenRangeOptimizedVariants},
     {"HIFK", formatHoIpFlowKey, lengthHoIpFlowKey, "IP flow key with interface",
      &kHoIpFlowKeyFields, "",
      "00 00 00 00 0a 00 01 01 01 0a 02 02 02 0a 06 00 c0 b3 00 03 45 74 35"},
