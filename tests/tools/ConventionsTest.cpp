@@ -72,6 +72,8 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        "",
        "ovfmt: cannot open /nonexistent: No such file or directory\n",
        2},
+      // No trace in "/", or no trace reader built: an "ovfmt: " line either way.
+      {{"--trace", "/"}, "", "", "ovfmt: ", 2},
       {{"--batch"}, "# only a comment\n", "", "ovfmt: <stdin>: no values to format\n", 0},
       {{"I", "0\x01"}, "", "", "ovfmt: I: bad hex: byte 0x01 at column 2\n", 1},
       {{"I", "00"},
