@@ -72,8 +72,6 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        "",
        "ovfmt: cannot open /nonexistent: No such file or directory\n",
        2},
-      // No trace in "/", or no trace reader built: an "ovfmt: " line either way.
-      {{"--trace", "/"}, "", "", "ovfmt: ", 2},
       {{"--batch"}, "# only a comment\n", "", "ovfmt: <stdin>: no values to format\n", 0},
       {{"I", "0\x01"}, "", "", "ovfmt: I: bad hex: byte 0x01 at column 2\n", 1},
       {{"I", "00"},
@@ -84,6 +82,27 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        2,
        {"OVFMT_PLUGIN_DIR=" ORVANE_SOURCE_DIR "/tests/vectors"}},
   });
+}
+
+// --trace's own command line: options in any order, its usage errors, its help.
+TEST(OvfmtConventions, TraceCommandLine) {
+  const std::string usage = "Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin "
+                            "TIME] [--end TIME]\nPrints the events";
+#ifdef ORVANE_WITH_TRACES
+  const std::string noTrace = "ovfmt: no CTF trace (a directory with a metadata file) in /\n";
+#else
+  const std::string noTrace = "ovfmt: --trace is not available: ovfmt was built without";
+#endif
+  expectRuns({
+      {{"--json", "--trace", "/"}, "", "", noTrace, 2},
+      {{"--trace", "/", "--begin"}, "", "", "ovfmt: --begin needs one value\n" + usage, 2},
+      {{"--trace", "/", "--x"}, "", "", "ovfmt: --trace does not go with --x\n" + usage, 2},
+  });
+  for (const char* help : {"--help", "-h"}) {
+    const auto run = runOvfmt({"--trace", "/", help});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(run.out.starts_with(usage)) << run.out;
+  }
 }
 
 // Every error line of a large batch gets out, in many gathered writes.
