@@ -73,6 +73,10 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        "ovfmt: cannot open /nonexistent: No such file or directory\n",
        2},
       {{"--batch"}, "# only a comment\n", "", "ovfmt: <stdin>: no values to format\n", 0},
+      // The output is one byte, written in one write of one byte.
+      {{"--batch", "--keep-lines"}, "\n", "\n", "ovfmt: <stdin>: no values to format\n", 0},
+      {{"--hexdump"}, "", "", "ovfmt: --hexdump needs the ID[,ID...] of the record\nTry", 2},
+      {{"--sep=,", "--template={}", "I", "00"}, "", "", "holds the text between arguments\n", 2},
       {{"I", "0\x01"}, "", "", "ovfmt: I: bad hex: byte 0x01 at column 2\n", 1},
       {{"I", "00"},
        "",
@@ -242,7 +246,8 @@ TEST(OvfmtConventions, HexDumpsOfEachTool) {
        "line 2: offset 0x10 where the bytes before end at 0x2", 1},
       {pgo, "000000 01 1g\n", "", "line 1: bad hex: 'g' at column 12", 1},
       {pgo, "000000 01 14\n*\n", "", "line 2: '*' with no offset after it", 1},
-      {pgo, "000000 01 14\n*\n000003\n", "", "line 3: the copies '*' stands for", 1},
+      {pgo, "000000 01 14\n*\n000003\n", "",
+       "line 3: the copies '*' stands for do not end at this line's offset\n", 1},
       {pgo, "000000 01 14\n*\n000002 0a 01 10\n", "10.1.16.0/20\n", "", 0}, // no copy
       {{"--hexdump", "PGO", "/nonexistent"}, "", "", "cannot open /nonexistent: No such", 2},
   });
