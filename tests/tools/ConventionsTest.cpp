@@ -73,6 +73,10 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        "ovfmt: cannot open /nonexistent: No such file or directory\n",
        2},
       {{"--batch"}, "# only a comment\n", "", "ovfmt: <stdin>: no values to format\n", 0},
+      // The output is one byte, written in one write of one byte.
+      {{"--batch", "--keep-lines"}, "\n", "\n", "ovfmt: <stdin>: no values to format\n", 0},
+      {{"--hexdump"}, "", "", "ovfmt: --hexdump needs the ID[,ID...] of the record\nTry", 2},
+      {{"--sep=,", "--template={}", "I", "00"}, "", "", "holds the text between arguments\n", 2},
       {{"I", "0\x01"}, "", "", "ovfmt: I: bad hex: byte 0x01 at column 2\n", 1},
       {{"I", "00"},
        "",
@@ -82,6 +86,27 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        2,
        {"OVFMT_PLUGIN_DIR=" ORVANE_SOURCE_DIR "/tests/vectors"}},
   });
+}
+
+// --trace's own command line: options in any order, its usage errors, its help.
+TEST(OvfmtConventions, TraceCommandLine) {
+  const std::string usage = "Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin "
+                            "TIME] [--end TIME]\nPrints the events";
+#ifdef ORVANE_WITH_TRACES
+  const std::string noTrace = "ovfmt: no CTF trace (a directory with a metadata file) in /\n";
+#else
+  const std::string noTrace = "ovfmt: --trace is not available: ovfmt was built without";
+#endif
+  expectRuns({
+      {{"--json", "--trace", "/"}, "", "", noTrace, 2},
+      {{"--trace", "/", "--begin"}, "", "", "ovfmt: --begin needs one value\n" + usage, 2},
+      {{"--trace", "/", "--x"}, "", "", "ovfmt: --trace does not go with --x\n" + usage, 2},
+  });
+  for (const char* help : {"--help", "-h"}) {
+    const auto run = runOvfmt({"--trace", "/", help});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(run.out.starts_with(usage)) << run.out;
+  }
 }
 
 // Every error line of a large batch gets out, in many gathered writes.
@@ -108,7 +133,11 @@ TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
        "'x' at column 2 (drop the 0x: bytes are pairs of hex digits)\n",
        1},
       {{"I", "0a", "0g"}, "", "", "bad hex: 'g' at column 5\n", 1},
-      {{"I", "0a 0", "00"}, "", "", "odd number of digits at column 4", 1},
+      {{"I", "0a 0", "00"},
+       "",
+       "",
+       "odd number of digits at column 4 (bytes are pairs of hex digits)\n",
+       1},
       // In a batch, columns count from the start of the line.
       {{"--batch"}, "  I 0g\n", "", "<stdin>:1: bad hex: 'g' at column 6\n", 1},
       {{"--batch"}, "I\t01 0X\n", "", "bad hex: 'X' at column 7 (drop the 0x", 1},
@@ -219,9 +248,11 @@ TEST(OvfmtConventions, HexDumpsOfEachTool) {
       {pgo, "hello\n", "", "<stdin>: line 1: not a line of xxd", 1},
       {pgo, "000000 01 14\n000010 0a\n", "",
        "line 2: offset 0x10 where the bytes before end at 0x2", 1},
+      {pgo, "100000 01\n", "", "line 1: offset 0x100000 where the bytes before end at 0x0\n", 1},
       {pgo, "000000 01 1g\n", "", "line 1: bad hex: 'g' at column 12", 1},
       {pgo, "000000 01 14\n*\n", "", "line 2: '*' with no offset after it", 1},
-      {pgo, "000000 01 14\n*\n000003\n", "", "line 3: the copies '*' stands for", 1},
+      {pgo, "000000 01 14\n*\n000003\n", "",
+       "line 3: the copies '*' stands for do not end at this line's offset\n", 1},
       {pgo, "000000 01 14\n*\n000002 0a 01 10\n", "10.1.16.0/20\n", "", 0}, // no copy
       {{"--hexdump", "PGO", "/nonexistent"}, "", "", "cannot open /nonexistent: No such", 2},
   });

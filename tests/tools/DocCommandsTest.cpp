@@ -17,7 +17,7 @@ struct Example {
 };
 
 // Examples in `path`: lines that `command` matches (group 1: the command, group 2: the
-// comment), each with the "# " lines that follow. `unescape` turns a line into text.
+// comment), each with the "# " (or "#") lines that follow. `unescape` turns a line into text.
 std::vector<Example> examplesIn(const std::string& path, const std::regex& command,
                                 std::string (*unescape)(const std::string&)) {
   std::ifstream in(path);
@@ -26,8 +26,8 @@ std::vector<Example> examplesIn(const std::string& path, const std::regex& comma
   for (std::string raw; std::getline(in, raw);) {
     const std::string line = unescape(raw);
     std::smatch m;
-    if (open && line.starts_with("# ")) {
-      examples.back().comments.push_back(line.substr(2));
+    if (open && (line.starts_with("# ") || line == "#")) { // "#" alone: a blank line
+      examples.back().comments.push_back(line.substr(line.size() > 1 ? 2 : 1));
     } else if (std::regex_match(line, m, command)) {
       examples.push_back({m[1], {}});
       if (m[2].matched) examples.back().comments.push_back(m[2]);

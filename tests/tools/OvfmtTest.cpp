@@ -83,7 +83,7 @@ TEST(Ovfmt, Describe) {
   expectRuns({
       {{"--describe", "MVP"}, "", idReferenceEntry("MVP"), "", 0},
       {{"--describe", "BNH"}, "", idReferenceEntry("BNH"), "", 0},
-      {{"--describe", "u32"}, "", "", "no loaded plug-in describes u32", 1},
+      {{"--describe", "u32"}, "", "", "no loaded plug-in describes u32\n", 1},
       {{"--describe", "NOPE"}, "", "", "no loaded plug-in describes NOPE", 1},
       {{"--describe"}, "", "", "--describe needs an id", 2},
       {{"--describe", "MVP", "--list"}, "", "", "only one of", 2},

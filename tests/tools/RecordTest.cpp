@@ -25,9 +25,9 @@ TEST(OvfmtRecord, PrintsArgumentsOnOneLine) {
       {{"--template", "peer {} nexthop {}", "BPK,BNH", kPeer + kHop}, "",
        "peer " + kPeerText + " nexthop " + kHopText + "\n", "", 0},
       {{"--template", "{{{}}}:}}", "I", "01 00 00 0a"}, "", "{10.0.0.1}:}\n", "", 0},
-      {{"u8,u16,u32,u64,x16,x32,bool,str",
-        "ff 01 01 02 00 00 00 03 00 00 00 00 00 00 00 ff ff ab 00 00 00 01 02 6f 6b"},
-       "", "255 257 2 3 ffff ab True ok\n", "", 0},
+      {{"u8,u16,u32,u64,x16,x32,bool,bool,str",
+        "ff 0101 02000000 0300000000000000 ffff ab000000 01 00 02 6f 6b"},
+       "", "255 257 2 3 ffff ab True False ok\n", "", 0},
       {{"--template", "[{}] [{}]", "--batch"}, "I,I 01 00 00 0a 02 00 00 0a\nI 01 00 00 0a\n",
        "[10.0.0.1] [10.0.0.2]\n", "<stdin>:2: the template has 2 '{}' but the record has 1", 1},
   });

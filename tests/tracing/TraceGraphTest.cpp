@@ -8,8 +8,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <sys/wait.h>
 #include <vector>
 
 namespace Orvane::test {
@@ -117,6 +120,27 @@ TEST_F(TraceGraphTest, TheTrimmerAndADamagedTraceAndNoTrace) {
   EXPECT_EQ(missing.step(), tracing::TraceGraph::Step::Failed);
   ASSERT_EQ(missing.problems().size(), 1u);
   EXPECT_NE(missing.problems()[0].find("no CTF trace"), std::string::npos);
+}
+
+// ovfmt --trace on the same trace: text or JSON Lines, and a status and a note that
+// count the typed fields that did not decode (none in the first event).
+TEST_F(TraceGraphTest, OvfmtPrintsTheTrace) {
+  const auto ovfmt = [](const std::string& options) {
+    FILE* pipe = popen((OVFMT " --trace " WORK_DIR "/good " + options).c_str(), "r");
+    std::string out(1 << 16, '\0');
+    out.resize(fread(out.data(), 1, out.size(), pipe));
+    const int status = pclose(pipe);
+    return std::pair{WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+  };
+  const auto [status, first] = ovfmt("--end 1700000001.000000 2>&1");
+  EXPECT_EQ(status, 0);
+  EXPECT_TRUE(first.ends_with("addr = 10.0.0.1%et1 }\n")) << first;
+  EXPECT_EQ(std::count(first.begin(), first.end(), '\n'), 1) << first;
+  EXPECT_TRUE(ovfmt("--json").second.starts_with("{\"type\":\"schema\"")) << ovfmt("--json").second;
+  const auto full = ovfmt("2>&1 >/dev/full");
+  EXPECT_EQ(full.first, 1);
+  EXPECT_NE(full.second.find("ovfmt: cannot write the output\novfmt: "), std::string::npos)
+      << full.second;
 }
 
 } // namespace
