@@ -55,23 +55,18 @@ TEST(OvfmtConventions, HelpLinesFitAndEachOptionStandsApart) {
 }
 
 TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
+  // clang-format off: one case a row, or two where its text is long
   expectRuns({
       {{"--jobs", "1", "--batch"}, "I 01 00 00 0a\n", "10.0.0.1\n", "", 0},
       {{"--jobs", "256", "--batch"}, "I 01 00 00 0a\n", "10.0.0.1\n", "", 0},
       {{"--jobs", "257", "--batch"}, "", "", "--jobs needs a number from 1 to 256\n", 2},
-      {{"--batch", "--hexdump", "I"},
-       "",
-       "",
-       "ovfmt: give only one of --batch, --hexdump, --list and --describe\nTry 'ovfmt --help'.\n",
-       2},
+      {{"--batch", "--hexdump", "I"}, "", "",
+       "ovfmt: give only one of --batch, --hexdump, --list and --describe\nTry 'ovfmt --help'.\n", 2},
       // A directory opens, and its read fails.
       {{"--batch", "/"}, "", "", "ovfmt: cannot read /: Is a directory\n", 2},
       {{"--hexdump", "I", "/"}, "", "", "ovfmt: cannot read /: Is a directory\n", 2},
-      {{"--batch", "/nonexistent"},
-       "",
-       "",
-       "ovfmt: cannot open /nonexistent: No such file or directory\n",
-       2},
+      {{"--batch", "/nonexistent"}, "", "",
+       "ovfmt: cannot open /nonexistent: No such file or directory\n", 2},
       {{"--batch"}, "# only a comment\n", "", "ovfmt: <stdin>: no values to format\n", 0},
       // The output is one byte, written in one write of one byte.
       {{"--batch", "--keep-lines"}, "\n", "\n", "ovfmt: <stdin>: no values to format\n", 0},
@@ -86,6 +81,7 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
        2,
        {"OVFMT_PLUGIN_DIR=" ORVANE_SOURCE_DIR "/tests/vectors"}},
   });
+  // clang-format on
 }
 
 // --trace's own command line: options in any order, its usage errors, its help.
@@ -123,39 +119,34 @@ TEST(OvfmtConventions, ThousandsOfErrorLinesAllWritten) {
 }
 
 TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
+  // clang-format off: one case a row, or two where its text is long
   expectRuns({
       {{"E", "00-1c-73-aa-bb-cc"}, "", "001c.73aa.bbcc\n", "", 0},
       {{"E", "001c.73aa.bbcc"}, "", "001c.73aa.bbcc\n", "", 0},
       {{"I", "AB CD EF 0a"}, "", "10.239.205.171\n", "", 0},
-      {{"I", "0x0a", "00"},
-       "",
-       "",
-       "'x' at column 2 (drop the 0x: bytes are pairs of hex digits)\n",
-       1},
+      {{"I", "0x0a", "00"}, "", "",
+       "'x' at column 2 (drop the 0x: bytes are pairs of hex digits)\n", 1},
       {{"I", "0a", "0g"}, "", "", "bad hex: 'g' at column 5\n", 1},
-      {{"I", "0a 0", "00"},
-       "",
-       "",
-       "odd number of digits at column 4 (bytes are pairs of hex digits)\n",
-       1},
+      {{"I", "0a 0", "00"}, "", "",
+       "odd number of digits at column 4 (bytes are pairs of hex digits)\n", 1},
       // In a batch, columns count from the start of the line.
       {{"--batch"}, "  I 0g\n", "", "<stdin>:1: bad hex: 'g' at column 6\n", 1},
       {{"--batch"}, "I\t01 0X\n", "", "bad hex: 'X' at column 7 (drop the 0x", 1},
       // The bytes parsed before bad hex are no part of the next record's zero guard.
       {{"--counts", "--batch"}, "I 01 02 03 0g\nI\n", "I\t4\t4\t0.0.0.0\n", "<stdin>:2:", 1},
   });
+  // clang-format on
 }
 
 TEST(OvfmtConventions, UnknownIdSuggestsTheNearest) {
+  // clang-format off: one case a row, or two where its text is long
   expectRuns({
       {{"pgo", "00"}, "", "", "unknown id \"pgo\"; did you mean PGO?", 1},
-      {{"I,BNHH", "00"},
-       "",
-       "",
-       "argument 2 of 2 (BNHH): unknown id \"BNHH\"; did you mean BNH?",
-       1},
+      {{"I,BNHH", "00"}, "", "",
+       "argument 2 of 2 (BNHH): unknown id \"BNHH\"; did you mean BNH?", 1},
       {{"QQQQQQ", "00"}, "", "", "unknown id \"QQQQQQ\" (ovfmt --list shows the ids)", 1},
   });
+  // clang-format on
   const std::vector<std::string> known{"A", "AF", "E", "EC", "I", "IP", "PGO", "PG", "RRRK"};
   EXPECT_EQ(ovfmt::nearestIds("pgo", known), "PGO");
   EXPECT_EQ(ovfmt::nearestIds("PGX", known), "PGO or PG");

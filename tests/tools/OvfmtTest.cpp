@@ -43,6 +43,7 @@ TEST(Ovfmt, OneValue) {
 }
 
 TEST(Ovfmt, UsageAndPluginErrorsExitTwo) {
+  // clang-format off: one case a row, or two where its text is long
   expectRuns({
       {{}, "", "", "nothing to do", 2},
       {{"--bogus"}, "", "", "ovfmt: unknown option '--bogus'\nTry 'ovfmt --help'.\n", 2},
@@ -54,17 +55,15 @@ TEST(Ovfmt, UsageAndPluginErrorsExitTwo) {
       {{"--list", "I"}, "", "", "--list takes no ID or HEX", 2},
       {{"--hexdump"}, "", "", "--hexdump needs the ID", 2},
       {{"--hexdump", "I", "a", "b"}, "", "", "--hexdump reads one FILE", 2},
-      {{"--batch", "/nonexistent/input.txt"},
-       "",
-       "",
-       "cannot open /nonexistent/input.txt: No such file or directory",
-       2},
+      {{"--batch", "/nonexistent/input.txt"}, "", "",
+       "cannot open /nonexistent/input.txt: No such file or directory", 2},
       {{"--list"}, "", "", "/nonexistent-dir", 2, {"OVFMT_PLUGIN_DIR=/nonexistent-dir"}},
       // Not there, not a shared object, and a library that registers no formatter.
       {{"--plugin", "/nonexistent.so", "I", "00"}, "", "", "plug-in /nonexistent.so", 2},
       {{"--plugin", DEMO_PATH, "I", "00"}, "", "", "cannot load plug-in " DEMO_PATH, 2},
       {{"--plugin", HOST_LIBRARY_PATH, "I", "00"}, "", "", "plug-in " HOST_LIBRARY_PATH, 2},
   });
+  // clang-format on
 }
 
 // The entry docs/ids.md shows for `id`: from its heading to the next anchor.

@@ -40,29 +40,20 @@ TEST(OvfmtRecord, ExampleRecordsDecode) {
 }
 
 TEST(OvfmtRecord, AFailedArgumentFailsTheRecord) {
+  // clang-format off: one case a row, or two where its text is long
   expectRuns({
-      {{"BPK,I,BNH", kPeer, "01 00 00"},
-       "",
-       "",
-       "ovfmt: BPK,I,BNH: argument 2 of 3 (I): value too short: 3 bytes left, I needs 4\n",
-       1},
-      {{"BPK,PGO,I", kPeer, "03 00 01 00 00 0a"},
-       "",
-       "",
-       "argument 2 of 3 (PGO): invalid encoding: the length function of PGO returned 0xFFFFFFFF",
-       1},
+      {{"BPK,I,BNH", kPeer, "01 00 00"}, "", "",
+       "ovfmt: BPK,I,BNH: argument 2 of 3 (I): value too short: 3 bytes left, I needs 4\n", 1},
+      {{"BPK,PGO,I", kPeer, "03 00 01 00 00 0a"}, "", "",
+       "argument 2 of 3 (PGO): invalid encoding: the length function of PGO returned 0xFFFFFFFF", 1},
       {{"I,NOPE", "01 00 00 0a 00"}, "", "", "argument 2 of 2 (NOPE): unknown id \"NOPE\"", 1},
-      {{"I,I", "01 00 00 0a 02 00 00 0a 07"},
-       "",
-       "10.0.0.1 10.0.0.2\n",
-       "argument 2 of 2 (I): 1 byte after the value not consumed",
-       1},
-      {{"--counts", "BPK,PGO,I", kPeer, "03 00"},
-       "",
+      {{"I,I", "01 00 00 0a 02 00 00 0a 07"}, "", "10.0.0.1 10.0.0.2\n",
+       "argument 2 of 2 (I): 1 byte after the value not consumed", 1},
+      {{"--counts", "BPK,PGO,I", kPeer, "03 00"}, "",
        "BPK\t10\t10\t" + kPeerText + "\nPGO\t4294967295\t4294967295\tunknown address family(3)/0\n",
-       "argument 2 of 3 (PGO): invalid encoding: the length function of PGO returned 0xFFFFFFFF",
-       1},
+       "argument 2 of 3 (PGO): invalid encoding: the length function of PGO returned 0xFFFFFFFF", 1},
   });
+  // clang-format on
 }
 
 TEST(OvfmtRecord, UsageErrors) {
