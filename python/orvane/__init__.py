@@ -16,12 +16,13 @@ stream's state, so the texts are exactly those of ovfmt.
 The first call that needs a formatter loads the plug-in installed or built beside this
 module, unless load() has already loaded one. Data is any bytes-like object (bytes,
 bytearray, a C-contiguous memoryview); a str is refused with a TypeError, as hex
-text is no value's bytes (bytes.fromhex() turns it into bytes). Errors are exceptions with ovfmt's words:
-KeyError for an unknown id, FormatError (a ValueError) for data too short, an invalid
-encoding or bytes left over, LoadError (an OSError) for a plug-in that will not load.
+text is no value's bytes (bytes.fromhex() turns it into bytes). Errors are
+exceptions with ovfmt's words: KeyError for an unknown id, FormatError (a ValueError)
+for data too short, an invalid encoding or bytes left over, LoadError (an OSError) for
+a plug-in that will not load.
 Formatting releases the GIL, so threads may format at once. Bytes of a text that are
 not UTF-8 (a corrupt string field) appear as \xNN escapes.
-r"""
+"""
 
 from orvane._core import (FormatError, LoadError, __version__, format, format_many,
                           format_record, ids, length, load)
