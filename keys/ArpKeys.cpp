@@ -39,11 +39,17 @@ constexpr FieldLayout kEntryLayouts[] = {
 // Where the flag is: after the key and the MAC.
 constexpr LabeledField kEntryAddresses[] = {kEntryKey, kEntryMac, {""}};
 
+constexpr FieldVariants kArpInputConfigEntryVariants{
+    "the flag byte that follows the key and the MAC; each body is the whole value",
+    std::size(kEntryLayouts),
+    [](unsigned extended) -> const LabeledField* { return kEntryLayouts[extended].fields; },
+    [](unsigned extended, std::ostream& os) { os << (extended ? "Flag 1" : "Any other flag"); }};
+
 namespace {
 
 VariantBody entryBody(const unsigned char* p) {
   const bool extended = at(p, lengthTable<kEntryAddresses>(p))[0] == kExtendedEntry;
-  return {kEntryLayouts[extended ? 1 : 0].fields};
+  return {kArpInputConfigEntryVariants.body(extended ? 1 : 0)};
 }
 
 } // namespace

@@ -22,6 +22,9 @@ ORVANE_API unsigned lengthArpInputConfigKey(const unsigned char* p);
 ORVANE_API unsigned formatArpInputConfigEntry(const unsigned char* p, std::ostream& os);
 /// The key, 6, lengthU8 and lengthU32, plus two lengthU32 when the flag byte is 1.
 ORVANE_API unsigned lengthArpInputConfigEntry(const unsigned char* p);
+/// The two layouts of "ARPICE" (FieldKind.h), indexed by whether the flag byte is 1;
+/// its format and length functions walk the layout picked here.
+ORVANE_API extern const FieldVariants kArpInputConfigEntryVariants;
 /// The append form (TextRun.h) of "ARPICE".
 unsigned appendArpInputConfigEntry(const unsigned char* p, TextRun& text);
 
