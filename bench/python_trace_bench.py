@@ -17,8 +17,8 @@ one python3-bt2 and Dask belong to (/usr/bin/python3).
 """
 
 import argparse
-import logging
 import json
+import logging
 import os
 import statistics
 import subprocess
