@@ -2,6 +2,7 @@
 // escaped control characters, batch lines that say where they come from, hex dumps,
 // plug-ins beside the built-in one, and exit statuses that tell the truth.
 #include "tests/support/RunOvfmt.h"
+#include "tools/ovfmt/Escape.h"
 #include "tools/ovfmt/Options.h"
 #include "tools/ovfmt/Plugins.h"
 #include "tools/ovfmt/Suggest.h"
@@ -180,6 +181,18 @@ TEST(OvfmtConventions, ControlCharactersAreEscapedUnlessRaw) {
        0},
       {{"--batch"}, "str 01 0a\nstr 01 42\n", "\\x0a\nB\n", "", 0},
   });
+}
+
+// The scan reads eight bytes at a time: a control character is found at every place of
+// texts up to two words long, and the bytes nearest to one are not taken for one.
+TEST(OvfmtConventions, ControlCharactersAreFoundAtEveryPlace) {
+  for (std::size_t size = 1; size <= 17; ++size)
+    for (std::size_t at = 0; at < size; ++at)
+      for (const int byte : {0x00, 0x1f, 0x7f, 0x20, 0x7e, 0x80, 0xa0, 0xff}) {
+        std::string text(size, '\x80');
+        text[at] = static_cast<char>(byte);
+        EXPECT_EQ(ovfmt::containsControl(text), byte < 0x20 || byte == 0x7f) << size << ' ' << at;
+      }
 }
 
 TEST(OvfmtConventions, BatchLinesSayWhereTheyCameFrom) {

@@ -3,15 +3,45 @@
 #include "registry/HexDigits.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <vector>
 
 namespace Orvane::ovfmt {
 namespace {
 
-bool hasControl(std::string_view text) { return std::any_of(text.begin(), text.end(), isControl); }
+constexpr std::uint64_t kEveryByte = 0x0101010101010101;
+constexpr std::uint64_t kHighBits = 0x8080808080808080;
+
+/// Whether one of the eight bytes of `word` is below 0x20 or is 0x7f. A byte below n
+/// (n at most 0x80) borrows into its high bit when n is subtracted from it, and `~word`
+/// drops bytes whose high bit was set already; a borrow can only mark bytes above one
+/// that matched, so the answer for the word as a whole is exact.
+bool wordHasControl(std::uint64_t word) {
+  const std::uint64_t belowSpace = (word - kEveryByte * 0x20) & ~word;
+  const std::uint64_t delAsZero = word ^ (kEveryByte * 0x7f);
+  const std::uint64_t isDel = (delAsZero - kEveryByte) & ~delAsZero;
+  return ((belowSpace | isDel) & kHighBits) != 0;
+}
+
+std::uint64_t wordAt(const char* bytes) {
+  std::uint64_t word;
+  std::memcpy(&word, bytes, sizeof word);
+  return word;
+}
 
 } // namespace
+
+bool containsControl(std::string_view text) {
+  constexpr std::size_t kWord = sizeof(std::uint64_t);
+  if (text.size() < kWord) return std::any_of(text.begin(), text.end(), isControl);
+  for (std::size_t at = 0; at + kWord < text.size(); at += kWord)
+    if (wordHasControl(wordAt(text.data() + at))) return true;
+  // The last word ends with the text, overlapping the one before when the size is not
+  // a multiple of eight.
+  return wordHasControl(wordAt(text.data() + text.size() - kWord));
+}
 
 void appendEscaped(std::string_view text, decoding::TextStream& out) {
   std::size_t plain = 0; // the start of the run of characters that need no escape
@@ -27,8 +57,16 @@ void appendEscaped(std::string_view text, decoding::TextStream& out) {
 }
 
 void escapeTexts(std::span<const decoding::Argument> arguments, decoding::TextStream& out) {
-  const auto first = std::find_if(arguments.begin(), arguments.end(),
-                                  [](const decoding::Argument& a) { return hasControl(a.text); });
+  if (arguments.empty()) return;
+  // The texts lie in order in `out`: one scan from the first to the end of the last
+  // passes most records. What it finds may be in a gap (a tab separator), so each text
+  // is then looked at alone.
+  const char* begin = arguments.front().text.data();
+  const std::string_view last = arguments.back().text;
+  if (!containsControl(std::string_view(begin, last.data() + last.size()))) return;
+  const auto first =
+      std::find_if(arguments.begin(), arguments.end(),
+                   [](const decoding::Argument& a) { return containsControl(a.text); });
   if (first == arguments.end()) return;
   // Offsets first: appending may move the buffer the texts view.
   const char* base = out.text().data();

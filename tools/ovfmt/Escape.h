@@ -17,10 +17,14 @@ inline bool isControl(char c) {
   return byte < 0x20 || byte == 0x7f;
 }
 
+/// Whether `text` holds a control character (see isControl). Reads eight bytes at a
+/// time: most texts have none, and this is the whole cost of escaping them.
+bool containsControl(std::string_view text);
+
 /// Appends `text` to `out`, each control character as "\xNN" (lowercase hex digits).
 void appendEscaped(std::string_view text, decoding::TextStream& out);
 
-/// Rewrites, in place in `out`, the texts of `arguments` (which view `out`) with their
+/// Rewrites, in place in `out`, the texts of `arguments` (which view `out`, in order) with their
 /// control characters escaped; the text between them stays as it is. Leaves `out`
 /// untouched, without a copy, when no text holds a control character.
 void escapeTexts(std::span<const decoding::Argument> arguments, decoding::TextStream& out);
