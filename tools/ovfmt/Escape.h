@@ -24,9 +24,9 @@ bool containsControl(std::string_view text);
 /// Appends `text` to `out`, each control character as "\xNN" (lowercase hex digits).
 void appendEscaped(std::string_view text, decoding::TextStream& out);
 
-/// Rewrites, in place in `out`, the texts of `arguments` (which view `out`, in order) with their
-/// control characters escaped; the text between them stays as it is. Leaves `out`
-/// untouched, without a copy, when no text holds a control character.
+/// Rewrites, in place in `out`, the texts of `arguments` (which view `out`, in order)
+/// with their control characters escaped; the text between them stays as it is. Leaves
+/// `out` untouched, without a copy, when no text holds a control character.
 void escapeTexts(std::span<const decoding::Argument> arguments, decoding::TextStream& out);
 
 } // namespace Orvane::ovfmt
