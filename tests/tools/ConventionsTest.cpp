@@ -87,8 +87,8 @@ TEST(OvfmtConventions, UsageAndInputProblemsInFull) {
 
 // --trace's own command line: options in any order, its usage errors, its help.
 TEST(OvfmtConventions, TraceCommandLine) {
-  const std::string usage = "Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin "
-                            "TIME] [--end TIME]\nPrints the events";
+  const std::string usage = "Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin T] "
+                            "[--end T]\nPrints the events";
 #ifdef ORVANE_WITH_TRACES
   const std::string noTrace = "ovfmt: no CTF trace (a directory with a metadata file) in /\n";
 #else
@@ -103,6 +103,8 @@ TEST(OvfmtConventions, TraceCommandLine) {
     const auto run = runOvfmt({"--trace", "/", help});
     EXPECT_EQ(run.status, 0);
     EXPECT_TRUE(run.out.starts_with(usage)) << run.out;
+    std::istringstream lines(run.out); // lines that fit a terminal, as --help's do
+    for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 79u) << line;
   }
 }
 

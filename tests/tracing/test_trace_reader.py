@@ -169,7 +169,7 @@ class TraceReaderTest(unittest.TestCase):
                 self.assertIn(message, result.stderr)
         shown = ovfmt("--trace", "--help")
         self.assertEqual((shown.returncode, shown.stdout.split(b"\n")[0]),
-                         (0, b"Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin TIME] [--end TIME]"))
+                         (0, b"Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]"))
         bad = babeltrace(WORK / "good", params='format="xml"')
         self.assertNotEqual(bad.returncode, 0)
         self.assertIn(b'parameter format must be "text" or "json"', bad.stderr)

@@ -14,11 +14,12 @@ namespace {
 constexpr int kExitOk = 0, kExitFailed = 1, kExitUsage = 2;
 
 const char kTraceUsage[] =
-    "Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin TIME] [--end TIME]\n"
-    "Prints the events of the CTF traces in DIR, one line each, typed fields as their\n"
-    "formatters' text, as `babeltrace2 DIR -c sink.orvane.text` does; --json prints JSON\n"
-    "Lines (docs/traces.md); --begin and --end keep the events in that time range\n"
-    "(TIME as babeltrace2 takes it: [YYYY-MM-DD] HH:MM[:SS[.NNNNNNNNN]] or SECONDS[.NNN]).\n";
+    "Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]\n"
+    "Prints the events of the CTF traces in DIR, one line each, typed fields as\n"
+    "their formatters' text, as `babeltrace2 DIR -c sink.orvane.text` does; --json\n"
+    "prints JSON Lines (docs/traces.md); --begin and --end keep the events in that\n"
+    "time range (T as babeltrace2 takes it: [YYYY-MM-DD] HH:MM[:SS[.NNNNNNNNN]] or\n"
+    "SECONDS[.NNN]).\n";
 
 struct TraceOptions {
   std::string path;

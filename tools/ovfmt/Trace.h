@@ -15,7 +15,7 @@ bool isTraceCommand(int argc, char** argv);
 /// host's base types; returns false, having reported why, when one would not load.
 using PluginLoading = std::function<bool(const std::vector<std::string>& plugins)>;
 
-/// Runs `ovfmt [--plugin PATH]... --trace DIR [--json] [--begin TIME] [--end TIME]` and
+/// Runs `ovfmt [--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]` and
 /// returns the exit status: 0 every event printed, 1 the trace could not be read to its
 /// end, a typed field was invalid or the output could not be written, 2 a usage error,
 /// no trace in DIR or a plug-in that would not load.
