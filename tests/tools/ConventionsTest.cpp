@@ -130,8 +130,8 @@ TEST(OvfmtConventions, HexSeparatorsAndErrorColumns) {
       {{"I", "0x0a", "00"}, "", "",
        "'x' at column 2 (drop the 0x: bytes are pairs of hex digits)\n", 1},
       {{"I", "0a", "0g"}, "", "", "bad hex: 'g' at column 5\n", 1},
-      {{"I", "0a 0", "00"}, "", "",
-       "odd number of digits at column 4 (bytes are pairs of hex digits)\n", 1},
+      {{"--batch"}, "I 0a 00 00 0\n", "", // the last digit alone, where the line ends
+       "<stdin>:1: bad hex: odd number of digits at column 12 (bytes are pairs", 1},
       // In a batch, columns count from the start of the line.
       {{"--batch"}, "  I 0g\n", "", "<stdin>:1: bad hex: 'g' at column 6\n", 1},
       {{"--batch"}, "I\t01 0X\n", "", "bad hex: 'X' at column 7 (drop the 0x", 1},
