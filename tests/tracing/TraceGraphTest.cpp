@@ -122,8 +122,8 @@ TEST_F(TraceGraphTest, TheTrimmerAndADamagedTraceAndNoTrace) {
   EXPECT_NE(missing.problems()[0].find("no CTF trace"), std::string::npos);
 }
 
-// ovfmt --trace on the same traces: text or JSON Lines, and a status and a note that
-// count the typed fields that did not decode (none in the first event).
+// ovfmt --trace on the same traces: text or JSON Lines, and a status and a note for typed
+// fields that did not decode (none in the first event) and for damage after valid events.
 TEST_F(TraceGraphTest, OvfmtPrintsTheTrace) {
   const auto ovfmt = [](const std::string& options, const char* trace = "good") {
     FILE* pipe = popen((OVFMT " --trace " WORK_DIR "/" + (trace + (" " + options))).c_str(), "r");
@@ -141,7 +141,6 @@ TEST_F(TraceGraphTest, OvfmtPrintsTheTrace) {
   EXPECT_EQ(full.first, 1);
   EXPECT_NE(full.second.find("ovfmt: cannot write the output\novfmt: "), std::string::npos)
       << full.second;
-  // Damage after the only events printed, all valid: the damage alone makes it 1.
   const auto [damagedStatus, damaged] = ovfmt("--begin 1700000002 2>&1", "corrupt");
   EXPECT_EQ(damagedStatus, 1);
   EXPECT_NE(damaged.find("ovfmt: cannot read the trace to its end\n"), std::string::npos);

@@ -1,10 +1,10 @@
 #include "tools/ovfmt/Escape.h"
 
+#include "registry/Bytes.h"
 #include "registry/HexDigits.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -25,22 +25,17 @@ bool wordHasControl(std::uint64_t word) {
   return ((belowSpace | isDel) & kHighBits) != 0;
 }
 
-std::uint64_t wordAt(const char* bytes) {
-  std::uint64_t word;
-  std::memcpy(&word, bytes, sizeof word);
-  return word;
-}
-
 } // namespace
 
 bool containsControl(std::string_view text) {
   constexpr std::size_t kWord = sizeof(std::uint64_t);
   if (text.size() < kWord) return std::any_of(text.begin(), text.end(), isControl);
+  const auto* bytes = reinterpret_cast<const unsigned char*>(text.data());
   for (std::size_t at = 0; at + kWord < text.size(); at += kWord)
-    if (wordHasControl(wordAt(text.data() + at))) return true;
+    if (wordHasControl(load<std::uint64_t>(bytes + at))) return true;
   // The last word ends with the text, overlapping the one before when the size is not
   // a multiple of eight.
-  return wordHasControl(wordAt(text.data() + text.size() - kWord));
+  return wordHasControl(load<std::uint64_t>(bytes + text.size() - kWord));
 }
 
 void appendEscaped(std::string_view text, decoding::TextStream& out) {
