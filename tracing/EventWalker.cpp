@@ -9,6 +9,12 @@ bool nsFromOrigin(const bt_clock_snapshot* snapshot, std::int64_t& ns) {
                          BT_CLOCK_SNAPSHOT_GET_NS_FROM_ORIGIN_STATUS_OK;
 }
 
+std::string traceNameOf(const bt_trace* trace) {
+  if (const char* name = bt_trace_get_name(trace)) return name;
+  const bt_value* host = bt_trace_borrow_environment_entry_value_by_name_const(trace, "hostname");
+  return host && bt_value_is_string(host) ? bt_value_string_get(host) : "";
+}
+
 EventInfo eventInfoOf(const bt_message* message) {
   const bt_event* event = bt_message_event_borrow_event_const(message);
   EventInfo info;

@@ -18,6 +18,11 @@ namespace Orvane::tracing {
 /// no snapshot or it lies too far from the origin.
 bool nsFromOrigin(const bt_clock_snapshot* snapshot, std::int64_t& ns);
 
+/// The name readers show for `trace`: the one babeltrace2's CTF reader gives it (its
+/// hostname, then "/" and the path of its directory below the input that named it), or
+/// its hostname when it has no name.
+std::string traceNameOf(const bt_trace* trace);
+
 /// The name and timestamp of the event an event message carries (the host is left for
 /// the caller, who may know it already).
 EventInfo eventInfoOf(const bt_message* message);

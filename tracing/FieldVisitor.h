@@ -13,7 +13,9 @@ namespace Orvane::tracing {
 /// The event-level facts that come before its fields.
 struct EventInfo {
   std::string_view name;
-  std::string_view host; ///< the trace's "hostname" environment entry, when it has one
+  /// The trace's name: its "hostname" environment entry, then "/" and the path of its
+  /// directory below the one the reader was given, when that is not the trace itself.
+  std::string_view trace;
   bool hasTimestamp = false;
   std::int64_t timestampNs = 0; ///< nanoseconds from the clock's origin, when it has one
 };

@@ -19,6 +19,8 @@ void JsonLayout::beginEvent(const EventInfo& event) {
     out_ += "null";
   out_ += R"(,"name":)";
   string(event.name);
+  out_ += R"(,"trace":)";
+  string(event.trace);
 }
 
 void JsonLayout::beginScope(Scope scope) {

@@ -15,7 +15,7 @@ struct Discarded {
   const bt_clock_snapshot* end = nullptr;
 };
 
-Discarded discardedEvents(const bt_message* message) {
+Discarded discardedEventsOf(const bt_message* message) {
   Discarded d;
   d.stream = bt_message_discarded_events_borrow_stream_const(message);
   d.hasCount = bt_message_discarded_events_get_count(message, &d.count) ==
@@ -28,7 +28,7 @@ Discarded discardedEvents(const bt_message* message) {
   return d;
 }
 
-Discarded discardedPackets(const bt_message* message) {
+Discarded discardedPacketsOf(const bt_message* message) {
   Discarded d;
   d.stream = bt_message_discarded_packets_borrow_stream_const(message);
   d.hasCount = bt_message_discarded_packets_get_count(message, &d.count) ==
@@ -41,15 +41,10 @@ Discarded discardedPackets(const bt_message* message) {
   return d;
 }
 
-std::string_view traceName(const bt_stream* stream) {
-  const char* name = bt_trace_get_name(bt_stream_borrow_trace_const(stream));
-  return name ? name : "";
-}
-
 } // namespace
 
-MessagePrinter::MessagePrinter(SinkOptions options)
-    : json_(options.json), clock_(options.clock), walker_(std::move(options.types)),
+MessagePrinter::MessagePrinter(OutputOptions options, TypeMap types)
+    : json_(options.json), clock_(options.clock), walker_(std::move(types)),
       text_(out_, options.clock), jsonLayout_(out_) {
   if (json_) out_ = jsonSchemaLine();
 }
@@ -66,21 +61,20 @@ void MessagePrinter::print(const bt_message* message) {
 void MessagePrinter::printEvent(const bt_message* message) {
   const bt_event* event = bt_message_event_borrow_event_const(message);
   EventInfo info = eventInfoOf(message);
-  info.host = hostOf(bt_event_borrow_stream_const(event));
+  info.trace = traceOf(bt_event_borrow_stream_const(event));
   if (json_)
     walker_.walk(event, info, jsonLayout_);
   else
     walker_.walk(event, info, text_);
 }
 
-std::string_view MessagePrinter::hostOf(const bt_stream* stream) {
+std::string_view MessagePrinter::traceOf(const bt_stream* stream) {
   const bt_trace* trace = bt_stream_borrow_trace_const(stream);
-  if (trace != hostTrace_) {
-    const bt_value* host = bt_trace_borrow_environment_entry_value_by_name_const(trace, "hostname");
-    hostTrace_ = trace;
-    host_ = host && bt_value_is_string(host) ? bt_value_string_get(host) : "";
+  if (trace != lastTrace_) {
+    lastTrace_ = trace;
+    traceName_ = traceNameOf(trace);
   }
-  return host_;
+  return traceName_;
 }
 
 void MessagePrinter::appendBoundary(const bt_clock_snapshot* snapshot) {
@@ -101,7 +95,8 @@ void MessagePrinter::appendBoundary(const bt_clock_snapshot* snapshot) {
 }
 
 void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
-  const Discarded d = packets ? discardedPackets(message) : discardedEvents(message);
+  const Discarded d = packets ? discardedPacketsOf(message) : discardedEventsOf(message);
+  (packets ? discardedPackets_ : discardedEvents_) += d.hasCount ? d.count : 0;
   const char* what = packets ? "packets" : "events";
   const char* one = packets ? "packet" : "event";
   if (json_) {
@@ -114,7 +109,7 @@ void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
     out_ += R"(,"end_ns":)";
     appendBoundary(d.end);
     out_ += R"(,"trace":")";
-    appendJsonString(out_, traceName(d.stream));
+    appendJsonString(out_, traceOf(d.stream));
     out_ += R"(","stream_id":)";
     appendUnsigned(out_, bt_stream_get_id(d.stream), false);
     out_ += "}\n";
@@ -130,7 +125,7 @@ void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
     appendBoundary(d.end);
   }
   warnings_ += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
-  appendEscapedText(warnings_, traceName(d.stream));
+  appendEscapedText(warnings_, traceOf(d.stream));
   warnings_ += "\"\n";
 }
 

@@ -4,7 +4,7 @@
 
 #include "tracing/EventWalker.h"
 #include "tracing/JsonLayout.h"
-#include "tracing/SinkOptions.h"
+#include "tracing/TraceRequest.h"
 #include "tracing/TextLayout.h"
 
 #include <babeltrace2/babeltrace.h>
@@ -17,7 +17,7 @@ namespace Orvane::tracing {
 /// and clears: output() for standard output, warnings() for standard error.
 class MessagePrinter {
 public:
-  explicit MessagePrinter(SinkOptions options);
+  MessagePrinter(OutputOptions options, TypeMap types);
 
   /// Appends what `message` shows; messages that show nothing (stream and packet
   /// beginnings and ends, inactivity) are skipped.
@@ -27,20 +27,24 @@ public:
   std::string& warnings() { return warnings_; }
   /// Typed fields found invalid so far.
   std::size_t invalidFields() const { return walker_.invalidFields(); }
+  /// Events and packets the discarded records counted so far (those that say how many).
+  std::uint64_t discardedEvents() const { return discardedEvents_; }
+  std::uint64_t discardedPackets() const { return discardedPackets_; }
 
 private:
   void printEvent(const bt_message* message);
   void printDiscarded(const bt_message* message, bool packets);
   void appendBoundary(const bt_clock_snapshot* snapshot);
-  /// The hostname of `stream`'s trace, looked up again only when the trace changes.
-  std::string_view hostOf(const bt_stream* stream);
+  /// The name of `stream`'s trace, looked up again only when the trace changes.
+  std::string_view traceOf(const bt_stream* stream);
 
   bool json_;
   ClockOptions clock_;
   EventWalker walker_;
   std::string out_, warnings_;
-  const bt_trace* hostTrace_ = nullptr;
-  std::string host_;
+  const bt_trace* lastTrace_ = nullptr;
+  std::string traceName_;
+  std::uint64_t discardedEvents_ = 0, discardedPackets_ = 0;
   TextLayout text_;
   JsonLayout jsonLayout_;
 };

@@ -1,6 +1,8 @@
 #include "tracing/PrintingConsumer.h"
 
+#include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <unistd.h>
 
 namespace Orvane::tracing {
@@ -8,6 +10,9 @@ namespace {
 
 /// Output is written once this much is pending, and at the end.
 constexpr std::size_t kFlushSize = 1 << 20;
+/// Room kept in the output buffer, so that it does not move while it is pending: the
+/// crash handler may read it at any moment.
+constexpr std::size_t kReserved = 2 * kFlushSize;
 
 bool writeAll(int fd, std::string& text) {
   std::size_t done = 0;
@@ -21,7 +26,64 @@ bool writeAll(int fd, std::string& text) {
   return true;
 }
 
+/// The whole lines pending in the guarded printer's output, for the crash handler.
+std::atomic<const char*> pendingData{nullptr};
+std::atomic<std::size_t> pendingSize{0};
+
+constexpr int kFatalSignals[] = {SIGABRT, SIGSEGV, SIGBUS, SIGILL, SIGFPE};
+struct sigaction previous[std::size(kFatalSignals)];
+
+/// Writes the pending lines, then lets the signal do what it did before.
+void writePendingAndDie(int signal) {
+  const char* data = pendingData.load();
+  std::size_t size = data ? pendingSize.load() : 0;
+  while (size > 0) {
+    const ssize_t n = write(STDOUT_FILENO, data, size);
+    if (n <= 0) break;
+    data += n;
+    size -= static_cast<std::size_t>(n);
+  }
+  for (std::size_t i = 0; i < std::size(kFatalSignals); ++i)
+    if (kFatalSignals[i] == signal) sigaction(signal, &previous[i], nullptr);
+  raise(signal);
+}
+
+void guardOnce() {
+  static const bool installed = [] {
+    struct sigaction action {};
+    action.sa_handler = writePendingAndDie;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_NODEFER;
+    for (std::size_t i = 0; i < std::size(kFatalSignals); ++i)
+      sigaction(kFatalSignals[i], &action, &previous[i]);
+    return true;
+  }();
+  (void)installed;
+}
+
+void publish(const std::string& text) {
+  pendingData.store(text.data(), std::memory_order_relaxed);
+  pendingSize.store(text.size(), std::memory_order_relaxed);
+}
+
 } // namespace
+
+PrintingConsumer::PrintingConsumer(OutputOptions options, TypeMap types)
+    : printer_(options, std::move(types)) {
+  printer_.output().reserve(kReserved);
+  guardOnce();
+  publish(printer_.output());
+}
+
+PrintingConsumer::~PrintingConsumer() {
+  pendingSize.store(0);
+  pendingData.store(nullptr);
+}
+
+void PrintingConsumer::consume(const bt_message* message) {
+  printer_.print(message);
+  publish(printer_.output());
+}
 
 bool PrintingConsumer::flush() {
   if (printer_.output().size() < kFlushSize && printer_.warnings().empty()) return true;
@@ -31,6 +93,7 @@ bool PrintingConsumer::flush() {
 // Output before warnings, so that they come out in order on one terminal.
 bool PrintingConsumer::finish() {
   if (!writeAll(STDOUT_FILENO, printer_.output())) writeFailed_ = true;
+  publish(printer_.output());
   writeAll(STDERR_FILENO, printer_.warnings());
   return !writeFailed_;
 }

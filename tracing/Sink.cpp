@@ -1,6 +1,8 @@
 #include "tracing/Sink.h"
 
+#include "tracing/MessageFilter.h"
 #include "tracing/PrintingConsumer.h"
+#include "tracing/SinkParameters.h"
 
 #include <memory>
 
@@ -8,23 +10,43 @@ namespace Orvane::tracing {
 namespace {
 
 /// A sink's state: the consumer (its own, or the one the program that created it
-/// gave), and the iterator over its input.
+/// gave), what it keeps, and the iterator over its input.
 struct Sink {
   std::unique_ptr<PrintingConsumer> printing; ///< when the sink prints
   MessageConsumer* consumer = nullptr;
+  std::unique_ptr<MessageFilter> filter;
   bt_message_iterator* iterator = nullptr;
 };
 
+bt_self_component* selfOf(bt_self_component_sink* self) {
+  return bt_self_component_sink_as_self_component(self);
+}
+
 Sink* sinkOf(bt_self_component_sink* self) {
-  return static_cast<Sink*>(
-      bt_self_component_get_data(bt_self_component_sink_as_self_component(self)));
+  return static_cast<Sink*>(bt_self_component_get_data(selfOf(self)));
 }
 
 bt_component_class_sink_consume_method_status fail(bt_self_component_sink* self,
                                                    const char* problem) {
-  BT_CURRENT_THREAD_ERROR_APPEND_CAUSE_FROM_COMPONENT(
-      bt_self_component_sink_as_self_component(self), "%s", problem);
+  BT_CURRENT_THREAD_ERROR_APPEND_CAUSE_FROM_COMPONENT(selfOf(self), "%s", problem);
   return BT_COMPONENT_CLASS_SINK_CONSUME_METHOD_STATUS_ERROR;
+}
+
+/// The sink for a program's own graph, or for babeltrace2's from the parameters.
+std::unique_ptr<Sink> makeSink(const bt_value* params, const SinkSetup* setup,
+                               std::string& problem) {
+  auto sink = std::make_unique<Sink>();
+  if (setup) {
+    sink->consumer = setup->consumer;
+    sink->filter = std::make_unique<MessageFilter>(*setup->request);
+    return sink;
+  }
+  TraceRequest request;
+  if (problem = readSinkParameters(params, request); !problem.empty()) return nullptr;
+  sink->filter = std::make_unique<MessageFilter>(request);
+  sink->printing = std::make_unique<PrintingConsumer>(request.output, std::move(request.types));
+  sink->consumer = sink->printing.get();
+  return sink;
 }
 
 } // namespace
@@ -32,22 +54,16 @@ bt_component_class_sink_consume_method_status fail(bt_self_component_sink* self,
 bt_component_class_initialize_method_status
 initializeTextSink(bt_self_component_sink* self, bt_self_component_sink_configuration*,
                    const bt_value* params, void* initializeData) {
-  SinkOptions options;
-  if (const std::string problem = readSinkOptions(params, options); !problem.empty()) {
-    BT_CURRENT_THREAD_ERROR_APPEND_CAUSE_FROM_COMPONENT(
-        bt_self_component_sink_as_self_component(self), "%s", problem.c_str());
+  std::string problem;
+  std::unique_ptr<Sink> sink = makeSink(params, static_cast<const SinkSetup*>(initializeData), problem);
+  if (!sink) {
+    BT_CURRENT_THREAD_ERROR_APPEND_CAUSE_FROM_COMPONENT(selfOf(self), "%s", problem.c_str());
     return BT_COMPONENT_CLASS_INITIALIZE_METHOD_STATUS_ERROR;
   }
   if (bt_self_component_sink_add_input_port(self, "in", nullptr, nullptr) !=
       BT_SELF_COMPONENT_ADD_PORT_STATUS_OK)
     return BT_COMPONENT_CLASS_INITIALIZE_METHOD_STATUS_ERROR;
-  auto sink = std::make_unique<Sink>();
-  sink->consumer = static_cast<MessageConsumer*>(initializeData);
-  if (!sink->consumer) {
-    sink->printing = std::make_unique<PrintingConsumer>(std::move(options));
-    sink->consumer = sink->printing.get();
-  }
-  bt_self_component_set_data(bt_self_component_sink_as_self_component(self), sink.release());
+  bt_self_component_set_data(selfOf(self), sink.release());
   return BT_COMPONENT_CLASS_INITIALIZE_METHOD_STATUS_OK;
 }
 
@@ -74,12 +90,12 @@ bt_component_class_sink_consume_method_status consumeTextSink(bt_self_component_
   switch (bt_message_iterator_next(sink.iterator, &messages, &count)) {
   case BT_MESSAGE_ITERATOR_NEXT_STATUS_OK: break;
   case BT_MESSAGE_ITERATOR_NEXT_STATUS_END:
-    if (!sink.consumer->finish()) return fail(self, "cannot pass on the last messages");
+    if (!sink.consumer->finish()) return fail(self, "cannot write the output");
     return BT_COMPONENT_CLASS_SINK_CONSUME_METHOD_STATUS_END;
   case BT_MESSAGE_ITERATOR_NEXT_STATUS_AGAIN:
     // A live source has nothing yet: what came so far is shown now.
     return sink.consumer->finish() ? BT_COMPONENT_CLASS_SINK_CONSUME_METHOD_STATUS_AGAIN
-                                   : fail(self, "cannot pass on the messages");
+                                   : fail(self, "cannot write the output");
   case BT_MESSAGE_ITERATOR_NEXT_STATUS_MEMORY_ERROR:
     sink.consumer->finish();
     return BT_COMPONENT_CLASS_SINK_CONSUME_METHOD_STATUS_MEMORY_ERROR;
@@ -89,10 +105,10 @@ bt_component_class_sink_consume_method_status consumeTextSink(bt_self_component_
     return BT_COMPONENT_CLASS_SINK_CONSUME_METHOD_STATUS_ERROR;
   }
   for (std::uint64_t i = 0; i < count; ++i) {
-    sink.consumer->consume(messages[i]);
+    if (sink.filter->keeps(messages[i])) sink.consumer->consume(messages[i]);
     bt_message_put_ref(messages[i]);
   }
-  if (!sink.consumer->flush()) return fail(self, "cannot pass on the messages");
+  if (!sink.consumer->flush()) return fail(self, "cannot write the output");
   return BT_COMPONENT_CLASS_SINK_CONSUME_METHOD_STATUS_OK;
 }
 

@@ -3,6 +3,9 @@
 // program that builds its own graph.
 #pragma once
 
+#include "tracing/MessageConsumer.h"
+#include "tracing/TraceRequest.h"
+
 #include <babeltrace2/babeltrace.h>
 
 #include <cstddef>
@@ -14,15 +17,23 @@ inline constexpr const char* kTextSinkName = "text";
 inline constexpr const char* kTextSinkDescription =
     "Print events as text or JSON lines, typed byte-array fields as their formatter's text.";
 inline constexpr const char* kTextSinkHelp =
-    "Parameters: format=\"text\"|\"json\", clock-seconds, clock-date, clock-gmt, no-delta "
-    "(booleans, text only), types=\"EVENT.FIELD=ID\" or an array of them. "
-    "See docs/traces.md.";
+    "Parameters: format=\"text\"|\"json\"; begin, end (a time: nanoseconds, SECONDS[.NNN] "
+    "or [YYYY-MM-DD ]HH:MM[:SS[.NNN]]); events=\"GLOB[,GLOB]\"; types=\"EVENT.FIELD=ID\" or "
+    "an array of them; clock-seconds, clock-date, clock-gmt, no-delta (booleans). "
+    "See /usr/share/doc/orvane/traces.md.";
+
+/// What a program that builds its own graph hands the sink instead of parameters: the
+/// consumer that gets every message kept, and the request whose events and range it keeps.
+struct SinkSetup {
+  MessageConsumer* consumer;
+  const TraceRequest* request;
+};
 
 /// The component's methods. The sink prints (PrintingConsumer, as its parameters say)
-/// unless the program that creates it passes a MessageConsumer as the initialisation data
-/// of bt_graph_add_sink_component_with_initialize_method_data(): then every message goes
-/// to that consumer. The host registry must hold the formatters before initialize() (the
-/// front end loads them).
+/// unless the program that creates it passes a SinkSetup as the initialisation data of
+/// bt_graph_add_sink_component_with_initialize_method_data(): then every message kept
+/// goes to its consumer. The host registry must hold the formatters before initialize()
+/// (the front end loads them).
 bt_component_class_initialize_method_status
 initializeTextSink(bt_self_component_sink* self, bt_self_component_sink_configuration* config,
                    const bt_value* params, void* initializeData);

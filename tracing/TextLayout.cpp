@@ -9,8 +9,8 @@ void TextLayout::beginEvent(const EventInfo& event) {
   resetNesting();
   scopeBefore_ = false;
   if (event.hasTimestamp) clock_.append(out_, event.timestampNs);
-  if (!event.host.empty()) {
-    appendEscapedText(out_, event.host);
+  if (!event.trace.empty()) {
+    appendEscapedText(out_, event.trace);
     out_ += ' ';
   }
   appendEscapedText(out_, event.name);

@@ -5,15 +5,17 @@
 
 #include <babeltrace2/babeltrace.h>
 
-#include <algorithm>
-#include <filesystem>
+#include <chrono>
 #include <memory>
+#include <thread>
 
 namespace Orvane::tracing {
 namespace {
 
 /// What babeltrace2's command line logs at by default.
 constexpr bt_logging_level kLogLevel = BT_LOGGING_LEVEL_WARNING;
+/// How long a live source with nothing new is left before it is asked again.
+constexpr std::chrono::milliseconds kLiveRetry(100);
 
 struct PutValue {
   void operator()(bt_value* value) const { bt_value_put_ref(value); }
@@ -25,21 +27,63 @@ struct PutSinkClass {
 };
 using Value = std::unique_ptr<bt_value, PutValue>;
 
-/// Moves the causes of the current thread's error, most recent first, into `problems`.
-void takeErrorCauses(std::vector<std::string>& problems) {
-  const bt_error* error = bt_current_thread_take_error();
-  if (!error) return;
-  for (std::uint64_t i = 0; i < bt_error_get_cause_count(error); ++i)
-    problems.emplace_back(bt_error_cause_get_message(bt_error_borrow_cause_by_index(error, i)));
-  bt_error_release(error);
+/// Whether `part` ("key=value") is an address or a count of no use to a reader.
+bool isNoise(std::string_view part) {
+  const std::size_t equals = part.find('=');
+  return part.substr(equals + 1).starts_with("0x") || part.substr(0, equals).ends_with("-addr");
+}
+
+/// A cause's message on one line, without the "key=0x..." addresses libbabeltrace2
+/// appends: "No event class with ID ...: stream-class-id=0, event-class-id=238".
+std::string readable(std::string_view message) {
+  std::string line;
+  const std::size_t colon = message.find(": ");
+  line.assign(message.substr(0, colon));
+  if (colon != std::string_view::npos) {
+    std::string kept;
+    for (std::string_view rest = message.substr(colon + 2); !rest.empty();) {
+      const std::size_t comma = rest.find(", ");
+      const std::string_view part = rest.substr(0, comma);
+      if (part.find('=') == std::string_view::npos) { // not key=value pairs after all
+        kept.assign(message.substr(colon + 2));
+        break;
+      }
+      if (!isNoise(part)) kept += (kept.empty() ? "" : ", ") + std::string(part);
+      rest = comma == std::string_view::npos ? std::string_view() : rest.substr(comma + 2);
+    }
+    if (!kept.empty()) line += ": " + kept;
+  }
+  for (char& c : line)
+    if (c == '\n') c = ' ';
+  return line;
+}
+
+/// The data stream file a message iterator's port reads ("UUID | ID | PATH"), or "".
+std::string streamFileOf(const bt_error_cause* cause) {
+  if (bt_error_cause_get_actor_type(cause) != BT_ERROR_CAUSE_ACTOR_TYPE_MESSAGE_ITERATOR)
+    return "";
+  const std::string_view port = 
+      bt_error_cause_message_iterator_actor_get_component_output_port_name(cause);
+  const std::size_t bar = port.rfind(" | ");
+  return bar == std::string_view::npos ? "" : std::string(port.substr(bar + 3));
 }
 
 } // namespace
 
-bool TraceGraph::failed(const std::string& problem) {
-  takeErrorCauses(problems_);
-  problems_.push_back(problem);
-  return false;
+void TraceGraph::report(const std::string& what) {
+  damaged_ = true;
+  const bt_error* error = bt_current_thread_take_error();
+  std::string file, reason;
+  for (std::uint64_t i = 0; error && i < bt_error_get_cause_count(error); ++i) {
+    const bt_error_cause* cause = bt_error_borrow_cause_by_index(error, i);
+    details_.emplace_back(bt_error_cause_get_message(cause));
+    if (const std::string stream = streamFileOf(cause); !stream.empty()) file = stream;
+    reason = readable(details_.back()); // the last cause is the first thing that failed
+  }
+  if (error) bt_error_release(error);
+  const std::string subject = file.empty() ? what : file;
+  problems_.push_back("cannot read " + subject + " to its end" + (reason.empty() ? "" : ": ") +
+                      reason);
 }
 
 const bt_plugin* TraceGraph::plugin(const char* name) {
@@ -52,106 +96,132 @@ const bt_plugin* TraceGraph::plugin(const char* name) {
 }
 
 bool TraceGraph::connect(const bt_port_output* from, const bt_port_input* to) {
-  return bt_graph_connect_ports(graph_, from, to, nullptr) == BT_GRAPH_CONNECT_PORTS_STATUS_OK ||
-         failed("cannot connect the components of the trace graph");
+  if (bt_graph_connect_ports(graph_, from, to, nullptr) == BT_GRAPH_CONNECT_PORTS_STATUS_OK)
+    return true;
+  report("the trace graph");
+  return false;
 }
 
-bool TraceGraph::addSources(const std::vector<std::string>& traces) {
-  const bt_plugin* ctf = plugin("ctf");
+const bt_component_source* TraceGraph::addSource(const TraceSource& source, std::size_t index) {
+  if (!ctf_) ctf_ = plugin("ctf");
+  const bt_component_class_source* sourceClass =
+      ctf_ ? bt_plugin_borrow_source_component_class_by_name_const(
+                 ctf_, source.live ? "lttng-live" : "fs")
+           : nullptr;
+  if (!sourceClass) {
+    problems_.push_back("babeltrace2's ctf plug-in is not installed");
+    return nullptr;
+  }
+  Value params(bt_value_map_create());
+  bt_value* inputs = nullptr;
+  bt_value_map_insert_empty_array_entry(params.get(), "inputs", &inputs);
+  for (const std::string& input : source.inputs)
+    bt_value_array_append_string_element(inputs, input.c_str());
+  if (!source.name.empty())
+    bt_value_map_insert_string_entry(params.get(), "trace-name", source.name.c_str());
+  if (source.live) // a session that does not exist is an error, not a wait
+    bt_value_map_insert_string_entry(params.get(), "session-not-found-action", "fail");
+  const std::string name = "source-" + std::to_string(index);
+  const bt_component_source* component = nullptr;
+  if (bt_graph_add_source_component(graph_, sourceClass, name.c_str(), params.get(), kLogLevel,
+                                    &component) != BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
+    report("the trace " + source.inputs.front());
+    return nullptr;
+  }
+  return component;
+}
+
+bool TraceGraph::addSink(const TraceRequest& request, MessageConsumer& consumer) {
+  std::unique_ptr<bt_component_class_sink, PutSinkClass> sinkClass(createTextSinkClass());
+  SinkSetup setup{&consumer, &request};
+  const bt_component_sink* sink = nullptr;
+  if (bt_graph_add_sink_component_with_initialize_method_data(
+          graph_, sinkClass.get(), "sink", nullptr, &setup, kLogLevel, &sink) !=
+      BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
+    report("the trace graph");
+    return false;
+  }
+  return connect(bt_component_filter_borrow_output_port_by_index_const(muxer_, 0),
+                 bt_component_sink_borrow_input_port_by_index_const(sink, 0));
+}
+
+bool TraceGraph::build(const std::vector<TraceSource>& sources, const TraceRequest& request,
+                       MessageConsumer& consumer, std::size_t& failedSource) {
+  graph_ = bt_graph_create(0);
   const bt_plugin* utils = plugin("utils");
-  if (!ctf || !utils) return failed("babeltrace2's ctf and utils plug-ins are not installed");
-  const bt_component_filter* muxer = nullptr;
-  const bt_component_class_filter* muxerClass =
-      bt_plugin_borrow_filter_component_class_by_name_const(utils, "muxer");
-  if (bt_graph_add_filter_component(graph_, muxerClass, "muxer", nullptr, kLogLevel, &muxer) !=
-      BT_GRAPH_ADD_COMPONENT_STATUS_OK)
-    return failed("cannot create the muxer");
-  const bt_component_class_source* fs =
-      bt_plugin_borrow_source_component_class_by_name_const(ctf, "fs");
-  for (std::size_t i = 0; i < traces.size(); ++i) {
-    Value params(bt_value_map_create());
-    bt_value* inputs = nullptr;
-    bt_value_map_insert_empty_array_entry(params.get(), "inputs", &inputs);
-    bt_value_array_append_string_element(inputs, traces[i].c_str());
-    const bt_component_source* source = nullptr;
-    const std::string name = "source-ctf-fs-" + std::to_string(i);
-    if (bt_graph_add_source_component(graph_, fs, name.c_str(), params.get(), kLogLevel, &source) !=
-        BT_GRAPH_ADD_COMPONENT_STATUS_OK)
-      return failed("cannot open the trace " + traces[i]);
+  if (!graph_ || !utils) {
+    problems_.push_back(graph_ ? "babeltrace2's utils plug-in is not installed"
+                               : "cannot create a trace graph");
+    return false;
+  }
+  if (bt_graph_add_filter_component(
+          graph_, bt_plugin_borrow_filter_component_class_by_name_const(utils, "muxer"), "muxer",
+          nullptr, kLogLevel, &muxer_) != BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
+    report("the trace graph");
+    return false;
+  }
+  for (std::size_t i = 0; i < sources.size(); ++i) {
+    const bt_component_source* source = addSource(sources[i], i);
+    if (!source) {
+      failedSource = i;
+      return false;
+    }
     for (std::uint64_t p = 0; p < bt_component_source_get_output_port_count(source); ++p) {
       // The muxer adds a free input port each time one is connected.
-      const std::uint64_t free = bt_component_filter_get_input_port_count(muxer) - 1;
+      const std::uint64_t free = bt_component_filter_get_input_port_count(muxer_) - 1;
       if (!connect(bt_component_source_borrow_output_port_by_index_const(source, p),
-                   bt_component_filter_borrow_input_port_by_index_const(muxer, free)))
+                   bt_component_filter_borrow_input_port_by_index_const(muxer_, free)))
         return false;
     }
   }
-  last_ = bt_component_filter_borrow_output_port_by_index_const(muxer, 0);
-  return true;
+  return addSink(request, consumer);
 }
 
-bool TraceGraph::addFilter(const char* pluginName, const char* name, const bt_value* params) {
-  const bt_plugin* found = plugin(pluginName);
-  if (!found)
-    return failed(std::string("babeltrace2's ") + pluginName + " plug-in is not installed");
-  const bt_component_filter* filter = nullptr;
-  if (bt_graph_add_filter_component(
-          graph_, bt_plugin_borrow_filter_component_class_by_name_const(found, name), name, params,
-          kLogLevel, &filter) != BT_GRAPH_ADD_COMPONENT_STATUS_OK)
-    return failed(std::string("cannot create the ") + name + " filter");
-  if (!connect(last_, bt_component_filter_borrow_input_port_by_index_const(filter, 0)))
-    return false;
-  last_ = bt_component_filter_borrow_output_port_by_index_const(filter, 0);
-  return true;
-}
-
-bool TraceGraph::addSink(MessageConsumer& consumer) {
-  std::unique_ptr<bt_component_class_sink, PutSinkClass> sinkClass(createTextSinkClass());
-  const bt_component_sink* sink = nullptr;
-  if (bt_graph_add_sink_component_with_initialize_method_data(
-          graph_, sinkClass.get(), "sink", nullptr, &consumer, kLogLevel, &sink) !=
-      BT_GRAPH_ADD_COMPONENT_STATUS_OK)
-    return failed("cannot create the sink");
-  return connect(last_, bt_component_sink_borrow_input_port_by_index_const(sink, 0));
-}
-
-bool TraceGraph::build(const TraceRequest& request, MessageConsumer& consumer) {
-  const std::vector<std::string> traces = findTraces(request.path);
-  if (traces.empty())
-    return failed("no CTF trace (a directory with a metadata file) in " + request.path);
-  graph_ = bt_graph_create(0);
-  if (!graph_) return failed("cannot create a trace graph");
-  if (!addSources(traces)) return false;
-  if (!request.begin.empty() || !request.end.empty()) {
-    Value range(bt_value_map_create());
-    if (!request.begin.empty())
-      bt_value_map_insert_string_entry(range.get(), "begin", request.begin.c_str());
-    if (!request.end.empty())
-      bt_value_map_insert_string_entry(range.get(), "end", request.end.c_str());
-    if (!addFilter("utils", "trimmer", range.get())) return false;
-  }
-  return addSink(consumer);
+void TraceGraph::destroy() {
+  bt_graph_put_ref(graph_);
+  graph_ = nullptr;
+  muxer_ = nullptr;
 }
 
 TraceGraph::TraceGraph(const TraceRequest& request, MessageConsumer& consumer) {
-  if (!build(request, consumer)) {
-    bt_graph_put_ref(graph_);
-    graph_ = nullptr;
+  Discovery found = discoverTraces(request.inputs);
+  damaged_ = !found.problems.empty();
+  problems_ = std::move(found.problems);
+  foundTraces_ = !found.sources.empty();
+  // A graph whose component failed to initialise is not used again: a trace that cannot
+  // be opened is left out, and the graph is built anew without it.
+  std::vector<TraceSource> sources = std::move(found.sources);
+  while (!sources.empty()) {
+    std::size_t failedSource = sources.size();
+    if (build(sources, request, consumer, failedSource)) return;
+    destroy();
+    if (failedSource == sources.size()) return; // not a trace's fault: nothing else to try
+    sources.erase(sources.begin() + static_cast<std::ptrdiff_t>(failedSource));
   }
 }
 
 TraceGraph::~TraceGraph() {
-  bt_graph_put_ref(graph_);
+  destroy();
   for (const bt_plugin* plugin : plugins_) bt_plugin_put_ref(plugin);
 }
 
 TraceGraph::Step TraceGraph::step() {
   if (!graph_) return Step::Failed;
-  switch (bt_graph_run_once(graph_)) {
-  case BT_GRAPH_RUN_ONCE_STATUS_OK:
-  case BT_GRAPH_RUN_ONCE_STATUS_AGAIN: return Step::More;
+  const bt_graph_run_once_status status = bt_graph_run_once(graph_);
+  // A source may leave an error on the thread and still return OK (a stream it stops
+  // reading part-way): that is a damaged stream, and the graph goes on without it. The
+  // error must be taken before libbabeltrace2 is called again.
+  if (status == BT_GRAPH_RUN_ONCE_STATUS_OK || status == BT_GRAPH_RUN_ONCE_STATUS_AGAIN) {
+    if (const bt_error* lingering = bt_current_thread_take_error()) {
+      bt_current_thread_move_error(lingering);
+      report("a stream");
+    }
+  }
+  switch (status) {
+  case BT_GRAPH_RUN_ONCE_STATUS_OK: return Step::More;
+  case BT_GRAPH_RUN_ONCE_STATUS_AGAIN: std::this_thread::sleep_for(kLiveRetry); return Step::More;
   case BT_GRAPH_RUN_ONCE_STATUS_END: return Step::End;
-  default: failed("cannot read the trace to its end"); return Step::Failed;
+  default: report("the traces"); return Step::Failed;
   }
 }
 
@@ -161,33 +231,21 @@ TraceGraph::Step TraceGraph::run() {
   return step;
 }
 
-std::vector<std::string> findTraces(const std::string& path) {
-  namespace fs = std::filesystem;
-  std::error_code ec;
-  if (fs::is_regular_file(fs::path(path) / "metadata", ec)) return {path};
-  std::vector<std::string> traces;
-  for (auto it = fs::recursive_directory_iterator(path, ec); !ec && it != fs::end(it);
-       it.increment(ec))
-    if (it->is_directory(ec) && fs::is_regular_file(it->path() / "metadata", ec))
-      traces.push_back(it->path().string());
-  std::sort(traces.begin(), traces.end());
-  return traces;
-}
-
 TraceOutcome readTraces(const TraceRequest& request) {
   TraceOutcome outcome;
-  SinkOptions options;
-  options.json = request.json;
-  PrintingConsumer printer(std::move(options));
+  PrintingConsumer printer(request.output, request.types);
   {
     TraceGraph graph(request, printer);
-    if (!graph.built())
+    if (!graph.foundTraces())
       outcome.status = TraceOutcome::Status::NoTrace;
-    else if (graph.run() == TraceGraph::Step::Failed)
+    else if (!graph.built() || graph.run() == TraceGraph::Step::Failed || graph.damaged())
       outcome.status = TraceOutcome::Status::ReadFailed;
     outcome.problems = graph.problems();
+    outcome.details = graph.details();
   } // the sink passes on its last messages as the graph goes
   outcome.invalidFields = printer.invalidFields();
+  outcome.discardedEvents = printer.discardedEvents();
+  outcome.discardedPackets = printer.discardedPackets();
   outcome.writeFailed = printer.writeFailed();
   return outcome;
 }

@@ -1,82 +1,92 @@
-// Reading CTF traces from a directory the way `babeltrace2 DIR -c sink.orvane.text`
-// does, for a program that links the reader in rather than loading it as a plug-in.
+// Reading CTF traces the way `babeltrace2 INPUT... -c sink.orvane.text` does, for a
+// program that links the reader in rather than loading it as a plug-in.
 #pragma once
 
 #include "tracing/MessageConsumer.h"
+#include "tracing/TraceDiscovery.h"
+#include "tracing/TraceRequest.h"
 
 #include <babeltrace2/babeltrace.h>
 
-#include <memory>
+#include <cstdint>
 #include <string>
 #include <vector>
 
 namespace Orvane::tracing {
 
-/// What to read.
-struct TraceRequest {
-  std::string path;       ///< a trace directory, or a directory holding traces
-  bool json = false;      ///< for readTraces(): JSON Lines instead of text lines
-  std::string begin, end; ///< the time range, as babeltrace2's --begin and --end take it
-};
-
-/// The trace directories under `path`: `path` itself when it holds a "metadata" file,
-/// else every directory below it that does, sorted.
-std::vector<std::string> findTraces(const std::string& path);
-
-/// The graph babeltrace2's convert command builds for a directory: a CTF source per
-/// trace, the muxer, the trimmer when a range is given, then the sink of tracing/Sink.h
-/// handing every message to a consumer. The host registry must hold the formatters.
+/// The graph babeltrace2's convert command builds for the request's inputs: a source per
+/// trace found (discoverTraces()), the muxer, then the sink of tracing/Sink.h keeping
+/// what the request asks for and handing it to a consumer. The host registry must hold
+/// the formatters.
+///
+/// A damaged trace does not stop the others: a trace whose source cannot be created is
+/// left out, and a stream that fails part-way is reported when the source says so; each
+/// is one line in problems(), and damaged() turns true.
 class TraceGraph {
 public:
-  /// Builds the graph for `request`; `consumer` must outlive it. On failure built() is
-  /// false and problems() says why.
+  /// Finds the traces and builds the graph; `consumer` must outlive it.
   TraceGraph(const TraceRequest& request, MessageConsumer& consumer);
   ~TraceGraph();
   TraceGraph(const TraceGraph&) = delete;
   TraceGraph& operator=(const TraceGraph&) = delete;
 
-  /// Whether the graph was built: request.path holds a trace and every component loaded.
+  /// Whether the inputs hold any trace (damaged or not).
+  bool foundTraces() const { return foundTraces_; }
+  /// Whether the graph was built: at least one trace's source was created.
   bool built() const { return graph_ != nullptr; }
-  /// Why building or running failed, most specific first.
+  /// Whether some input, directory, trace or stream could not be read to its end.
+  bool damaged() const { return damaged_; }
+  /// What could not be read, one line each ("cannot read FILE to its end: WHY"), in the
+  /// order met.
   const std::vector<std::string>& problems() const { return problems_; }
+  /// Every cause libbabeltrace2 gave for those problems, most recent first: what -v shows.
+  const std::vector<std::string>& details() const { return details_; }
 
   enum class Step { More, End, Failed };
-  /// Lets the sink consume once (bt_graph_run_once): the consumer gets the next batch of
-  /// messages. More until the traces end; Failed (see problems()) when they cannot be
-  /// read on, or the graph was not built.
+  /// Lets the sink consume once: the consumer gets the next batch of messages. More until
+  /// the traces end (a live source with nothing new waits a moment first); Failed when
+  /// they cannot be read on, or the graph was not built.
   Step step();
   /// step() until the end or a failure.
   Step run();
 
 private:
-  bool build(const TraceRequest& request, MessageConsumer& consumer);
+  bool build(const std::vector<TraceSource>& sources, const TraceRequest& request,
+             MessageConsumer& consumer, std::size_t& failedSource);
   const bt_plugin* plugin(const char* name);
-  bool addSources(const std::vector<std::string>& traces);
-  bool addFilter(const char* plugin, const char* name, const bt_value* params);
-  bool addSink(MessageConsumer& consumer);
+  const bt_component_source* addSource(const TraceSource& source, std::size_t index);
+  bool addSink(const TraceRequest& request, MessageConsumer& consumer);
   bool connect(const bt_port_output* from, const bt_port_input* to);
-  bool failed(const std::string& problem);
+  /// Records what the current thread's error says went wrong: `what` and its reason.
+  void report(const std::string& what);
+  void destroy();
 
-  std::vector<std::string> problems_;
+  std::vector<std::string> problems_, details_;
   std::vector<const bt_plugin*> plugins_; // outlive the graph, whose components use them
+  const bt_plugin* ctf_ = nullptr;
   bt_graph* graph_ = nullptr;
-  const bt_port_output* last_ = nullptr; ///< where the next component's input connects
+  const bt_component_filter* muxer_ = nullptr;
+  bool foundTraces_ = false;
+  bool damaged_ = false;
 };
 
 /// What readTraces() did.
 struct TraceOutcome {
   enum class Status {
     Ok,         ///< every event printed
-    NoTrace,    ///< `path` holds no CTF trace, or the graph could not be built
-    ReadFailed, ///< the trace could not be read to its end (events before were printed)
+    NoTrace,    ///< the inputs hold no CTF trace
+    ReadFailed, ///< something could not be read to its end (what was read is printed)
   } status = Status::Ok;
-  std::vector<std::string> problems; ///< why, most specific first
+  std::vector<std::string> problems; ///< one line each
+  std::vector<std::string> details;  ///< libbabeltrace2's causes, for -v
   std::size_t invalidFields = 0;     ///< typed fields that printed as invalid
-  bool writeFailed = false;          ///< standard output could not be written
+  std::uint64_t discardedEvents = 0; ///< events the tracer reported lost
+  std::uint64_t discardedPackets = 0;
+  bool writeFailed = false; ///< standard output could not be written
 };
 
-/// Prints the events of the traces under request.path, as text lines or JSON Lines, to
-/// standard output (warnings to standard error), exactly as sink.orvane.text does.
+/// Prints the events the request asks for, as text lines or JSON Lines, to standard
+/// output (warnings to standard error), exactly as sink.orvane.text does.
 TraceOutcome readTraces(const TraceRequest& request);
 
 } // namespace Orvane::tracing
