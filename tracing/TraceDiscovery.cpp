@@ -114,8 +114,9 @@ private:
     }
     std::error_code ec;
     std::vector<fs::path> children;
+    // A link to a directory is not followed: it may lead back up (/proc/self/root).
     for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec))
-      if (it->is_directory(ec)) children.push_back(it->path());
+      if (it->symlink_status(ec).type() == fs::file_type::directory) children.push_back(it->path());
     if (ec) {
       discovery.problems.push_back("cannot read the directory " + dir + ": " + ec.message());
       ec.clear();

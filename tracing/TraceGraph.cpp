@@ -12,8 +12,6 @@
 namespace Orvane::tracing {
 namespace {
 
-/// What babeltrace2's command line logs at by default.
-constexpr bt_logging_level kLogLevel = BT_LOGGING_LEVEL_WARNING;
 /// How long a live source with nothing new is left before it is asked again.
 constexpr std::chrono::milliseconds kLiveRetry(100);
 
@@ -77,8 +75,10 @@ void TraceGraph::report(const std::string& what) {
   for (std::uint64_t i = 0; error && i < bt_error_get_cause_count(error); ++i) {
     const bt_error_cause* cause = bt_error_borrow_cause_by_index(error, i);
     details_.emplace_back(bt_error_cause_get_message(cause));
-    if (const std::string stream = streamFileOf(cause); !stream.empty()) file = stream;
-    reason = readable(details_.back()); // the last cause is the first thing that failed
+    // The first cause is the first thing that failed; the first message iterator named
+    // is the stream's.
+    if (file.empty()) file = streamFileOf(cause);
+    if (reason.empty()) reason = readable(details_.back());
   }
   if (error) bt_error_release(error);
   const std::string subject = file.empty() ? what : file;
@@ -123,7 +123,7 @@ const bt_component_source* TraceGraph::addSource(const TraceSource& source, std:
     bt_value_map_insert_string_entry(params.get(), "session-not-found-action", "fail");
   const std::string name = "source-" + std::to_string(index);
   const bt_component_source* component = nullptr;
-  if (bt_graph_add_source_component(graph_, sourceClass, name.c_str(), params.get(), kLogLevel,
+  if (bt_graph_add_source_component(graph_, sourceClass, name.c_str(), params.get(), logLevel_,
                                     &component) != BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
     report("the trace " + source.inputs.front());
     return nullptr;
@@ -136,7 +136,7 @@ bool TraceGraph::addSink(const TraceRequest& request, MessageConsumer& consumer)
   SinkSetup setup{&consumer, &request};
   const bt_component_sink* sink = nullptr;
   if (bt_graph_add_sink_component_with_initialize_method_data(
-          graph_, sinkClass.get(), "sink", nullptr, &setup, kLogLevel, &sink) !=
+          graph_, sinkClass.get(), "sink", nullptr, &setup, logLevel_, &sink) !=
       BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
     report("the trace graph");
     return false;
@@ -156,7 +156,7 @@ bool TraceGraph::build(const std::vector<TraceSource>& sources, const TraceReque
   }
   if (bt_graph_add_filter_component(
           graph_, bt_plugin_borrow_filter_component_class_by_name_const(utils, "muxer"), "muxer",
-          nullptr, kLogLevel, &muxer_) != BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
+          nullptr, logLevel_, &muxer_) != BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
     report("the trace graph");
     return false;
   }
@@ -184,10 +184,18 @@ void TraceGraph::destroy() {
 }
 
 TraceGraph::TraceGraph(const TraceRequest& request, MessageConsumer& consumer) {
+  // Every problem is reported in one line; the components' own log lines only when the
+  // user asks for the details, at the level babeltrace2's command line logs at.
+  logLevel_ = request.diagnostics ? BT_LOGGING_LEVEL_WARNING : BT_LOGGING_LEVEL_NONE;
   Discovery found = discoverTraces(request.inputs);
   damaged_ = !found.problems.empty();
   problems_ = std::move(found.problems);
   foundTraces_ = !found.sources.empty();
+  if (!foundTraces_) {
+    std::string inputs;
+    for (const std::string& input : request.inputs) inputs += (inputs.empty() ? "" : " ") + input;
+    problems_.push_back("no CTF trace (a directory with a metadata file) in " + inputs);
+  }
   // A graph whose component failed to initialise is not used again: a trace that cannot
   // be opened is left out, and the graph is built anew without it.
   std::vector<TraceSource> sources = std::move(found.sources);

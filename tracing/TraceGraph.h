@@ -39,7 +39,8 @@ public:
   /// What could not be read, one line each ("cannot read FILE to its end: WHY"), in the
   /// order met.
   const std::vector<std::string>& problems() const { return problems_; }
-  /// Every cause libbabeltrace2 gave for those problems, most recent first: what -v shows.
+  /// Every cause libbabeltrace2 gave for those problems, the first to fail first: what -v
+  /// shows.
   const std::vector<std::string>& details() const { return details_; }
 
   enum class Step { More, End, Failed };
@@ -66,6 +67,7 @@ private:
   const bt_plugin* ctf_ = nullptr;
   bt_graph* graph_ = nullptr;
   const bt_component_filter* muxer_ = nullptr;
+  bt_logging_level logLevel_ = BT_LOGGING_LEVEL_NONE; ///< of the components
   bool foundTraces_ = false;
   bool damaged_ = false;
 };

@@ -5,20 +5,6 @@
 namespace Orvane::tracing {
 namespace {
 
-constexpr RequestParameter kParameters[] = {
-    {"format", ParameterKind::Text, "FORMAT", "\"text\" (the default) or \"json\" (JSON Lines)"},
-    {"begin", ParameterKind::Time, "T", "keep the events from time T on"},
-    {"end", ParameterKind::Time, "T", "keep the events up to time T"},
-    {"events", ParameterKind::List, "GLOB[,GLOB]",
-     "keep the events whose name matches a GLOB\n('*' any text, '?' one character)"},
-    {"types", ParameterKind::List, "EVENT.FIELD=ID",
-     "read the payload field FIELD of the event EVENT\n('*' for every event) as the id ID"},
-    {"clock-seconds", ParameterKind::Flag, "", "(text) timestamps as seconds from the origin"},
-    {"clock-date", ParameterKind::Flag, "", "(text) the date before the time of day"},
-    {"clock-gmt", ParameterKind::Flag, "", "times in UTC, not the local time zone"},
-    {"no-delta", ParameterKind::Flag, "", "(text) no (+DELTA) after the timestamp"},
-};
-
 /// Splits `value` at its commas, each item in turn to `add`; stops at the first problem.
 template <typename Add> std::string forEachItem(std::string_view value, Add add) {
   for (std::size_t start = 0;;) {
@@ -68,14 +54,6 @@ std::string setTime(std::optional<TimeBound>& bound, std::string_view value) {
 
 } // namespace
 
-std::span<const RequestParameter> requestParameters() { return kParameters; }
-
-const RequestParameter* findRequestParameter(std::string_view name) {
-  for (const RequestParameter& parameter : kParameters)
-    if (parameter.name == name) return &parameter;
-  return nullptr;
-}
-
 std::string setRequestParameter(TraceRequest& request, std::string_view name,
                                 std::string_view value) {
   const RequestParameter* parameter = findRequestParameter(name);
@@ -101,7 +79,7 @@ std::string checkRange(const TraceRequest& request) {
 
 std::string requestParameterNames() {
   std::string names;
-  for (const RequestParameter& parameter : kParameters)
+  for (const RequestParameter& parameter : kRequestParameters)
     names += (names.empty() ? "" : ", ") + std::string(parameter.name);
   return names;
 }

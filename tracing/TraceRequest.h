@@ -31,6 +31,7 @@ struct TraceRequest {
   std::vector<std::string> events;     ///< event-name globs; none keeps every event
   TypeMap types;                       ///< fields typed by event and field name
   OutputOptions output;
+  bool diagnostics = false; ///< libbabeltrace2's own log lines on stderr, not only problems
 };
 
 /// What kind of value a parameter takes.
@@ -50,10 +51,31 @@ struct RequestParameter {
 };
 
 /// Every request parameter, in the order help texts list them.
-std::span<const RequestParameter> requestParameters();
+inline constexpr RequestParameter kRequestParameters[] = {
+    {"format", ParameterKind::Text, "FORMAT", "\"text\" (the default) or \"json\" (JSON Lines)"},
+    {"begin", ParameterKind::Time, "T",
+     "keep the events from time T on: NANOSECONDS (more\n"
+     "than 10 digits), SECONDS[.NNNNNNNNN] or\n"
+     "[YYYY-MM-DD ]HH:MM[:SS[.NNNNNNNNN]]"},
+    {"end", ParameterKind::Time, "T", "keep the events up to time T"},
+    {"events", ParameterKind::List, "GLOB[,GLOB]",
+     "keep the events whose name matches a GLOB ('*'\n"
+     "any text, '?' one character)"},
+    {"types", ParameterKind::List, "EVENT.FIELD=ID",
+     "read the payload field FIELD of the event EVENT\n"
+     "('*' every event) as the id ID"},
+    {"clock-seconds", ParameterKind::Flag, "", "timestamps as seconds from the origin"},
+    {"clock-date", ParameterKind::Flag, "", "the date before the time of day"},
+    {"clock-gmt", ParameterKind::Flag, "", "times in UTC, not in the local time zone"},
+    {"no-delta", ParameterKind::Flag, "", "no (+DELTA) after the timestamp"},
+};
 
 /// The parameter called `name`, or null when there is none.
-const RequestParameter* findRequestParameter(std::string_view name);
+constexpr const RequestParameter* findRequestParameter(std::string_view name) {
+  for (const RequestParameter& parameter : kRequestParameters)
+    if (parameter.name == name) return &parameter;
+  return nullptr;
+}
 
 /// Sets the parameter `name` of `request` from its text: "" or "true" turns a flag on
 /// and "false" off, a list takes comma-separated items (added to those before), a time

@@ -1,7 +1,9 @@
 // The reader's graph in-process, with a consumer of the test's own (as a language binding
-// would use it): events arrive in order, typed fields decoded, a damaged trace fails
-// after the events before the damage, a directory without a trace is refused.
+// would use it): events arrive in order, typed fields decoded, the request's filters
+// applied, traces found and named as babeltrace2 finds them, damage reported in one line
+// after the events before it; and ovfmt --trace on the same traces.
 #include "tracing/TraceGraph.h"
+#include "tracing/PrintingConsumer.h"
 #include "host/BaseTypes.h"
 #include "host/PluginLoader.h"
 #include "tracing/EventWalker.h"
@@ -9,10 +11,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <fcntl.h>
 #include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 namespace Orvane::test {
@@ -66,17 +72,39 @@ private:
   tracing::EventWalker walker_;
 };
 
-tracing::TraceRequest request(const char* trace, std::string begin = {}, std::string end = {}) {
-  return {std::string(WORK_DIR) + "/" + trace, false, std::move(begin), std::move(end)};
+namespace fs = std::filesystem;
+
+std::string at(const char* trace) { return std::string(WORK_DIR) + "/" + trace; }
+
+// A request for `inputs` with the parameters `name=value` given.
+tracing::TraceRequest request(std::vector<std::string> inputs,
+                              std::vector<std::pair<const char*, const char*>> parameters = {}) {
+  tracing::TraceRequest made;
+  made.inputs = std::move(inputs);
+  for (const auto& [name, value] : parameters)
+    EXPECT_EQ(tracing::setRequestParameter(made, name, value), "") << name;
+  return made;
 }
+tracing::TraceRequest request(const char* trace) { return request({at(trace)}); }
 
 class TraceGraphTest : public ::testing::Test {
 protected:
+  // The writer's traces, and under "tree": a copy of "good" (one UUID: one trace),
+  // "discarded" a level down, and a trace whose metadata is not CTF.
   static void SetUpTestSuite() {
     ASSERT_TRUE(host::loadPlugin(PLUGIN_PATH).empty());
     host::registerBaseTypes();
     const std::string command = std::string(PYTHON " ") + MAKE_TRACE " " + WORK_DIR;
     ASSERT_EQ(std::system(command.c_str()), 0);
+    fs::remove_all(at("tree"));
+    const std::pair<const char*, const char*> copies[] = {
+        {"good", "tree/a/good"}, {"good", "tree/a/copy"}, {"discarded", "tree/b/discarded"},
+        {"good", "tree/broken"}};
+    for (const auto& [from, to] : copies) {
+      fs::create_directories(fs::path(at(to)).parent_path());
+      fs::copy(at(from), at(to), fs::copy_options::recursive);
+    }
+    std::ofstream(at("tree/broken/metadata")) << "/* CTF 1.8 */ not a trace {";
   }
 };
 
@@ -101,49 +129,129 @@ TEST_F(TraceGraphTest, EventsArriveInOrderWithTypedFieldsDecoded) {
   EXPECT_GT(consumer.finishes, 0);
 }
 
-TEST_F(TraceGraphTest, TheTrimmerAndADamagedTraceAndNoTrace) {
-  EventConsumer trimmed;
-  tracing::TraceGraph range(request("good", "1700000001.000001", "1700000001.000003"), trimmed);
-  EXPECT_EQ(range.run(), tracing::TraceGraph::Step::End);
-  EXPECT_EQ(trimmed.collected.events.size(), 3u);
+TEST_F(TraceGraphTest, KeepsTheEventsTheRequestAsksFor) {
+  struct Case {
+    std::vector<std::pair<const char*, const char*>> parameters;
+    std::size_t events;
+  };
+  const Case cases[] = {
+      {{}, 5},
+      {{{"events", "app:*"}}, 1},
+      {{{"events", "bgp:route,nothing"}}, 3},
+      {{{"begin", "1700000001000001000"}, {"end", "1700000001000003000"}}, 3},
+      {{{"begin", "1700000001.000003"}}, 2},
+      {{{"clock-gmt", ""}, {"begin", "22:13:21.000004"}}, 1},
+      {{{"clock-gmt", ""}, {"end", "2023-11-14 22:13:21.000001"}}, 2},
+      {{{"end", "1700000000"}}, 0},
+  };
+  for (const Case& c : cases) {
+    EventConsumer consumer;
+    tracing::TraceGraph graph(request({at("good")}, c.parameters), consumer);
+    EXPECT_EQ(graph.run(), tracing::TraceGraph::Step::End);
+    EXPECT_EQ(consumer.collected.events.size(), c.events) << c.parameters.size();
+  }
+}
+
+TEST_F(TraceGraphTest, FindsAndNamesTracesAsBabeltrace2Does) {
+  const auto found = tracing::discoverTraces({at("tree"), at("none"), at("corrupt")});
+  ASSERT_EQ(found.sources.size(), 4u);
+  EXPECT_EQ(found.sources[0].inputs, (std::vector<std::string>{at("tree/a/copy"), at("tree/a/good")}));
+  EXPECT_EQ(found.sources[0].name, ""); // copies of one trace: its hostname only
+  EXPECT_EQ(found.sources[1].name, "b/discarded");
+  EXPECT_EQ(found.sources[2].name, "broken");
+  EXPECT_EQ(found.sources[3].inputs, std::vector<std::string>{at("corrupt")});
+  EXPECT_EQ(found.sources[3].name, "");
+  ASSERT_EQ(found.problems.size(), 1u);
+  EXPECT_EQ(found.problems[0], "cannot read " + at("none") + ": No such file or directory");
+}
+
+TEST_F(TraceGraphTest, ReportsDamageInOneLineAndReadsTheRest) {
+  EventConsumer consumer;
+  tracing::TraceGraph graph(request({at("tree")}), consumer);
+  EXPECT_EQ(graph.run(), tracing::TraceGraph::Step::End);
+  EXPECT_TRUE(graph.damaged());
+  EXPECT_EQ(consumer.collected.events.size(), 15u); // both copies, and discarded
+  ASSERT_EQ(graph.problems().size(), 1u);
+  EXPECT_TRUE(graph.problems()[0].starts_with("cannot read the trace " + at("tree/broken") +
+                                              " to its end: "))
+      << graph.problems()[0];
+  EXPECT_FALSE(graph.details().empty());
 
   EventConsumer damaged;
   tracing::TraceGraph corrupt(request("corrupt"), damaged);
   EXPECT_EQ(corrupt.run(), tracing::TraceGraph::Step::Failed);
   EXPECT_EQ(damaged.collected.events.size(), 5u); // the first packet, whole
-  ASSERT_FALSE(corrupt.problems().empty());
-  EXPECT_EQ(corrupt.problems().back(), "cannot read the trace to its end");
+  EXPECT_EQ(corrupt.problems(), std::vector<std::string>{
+                                    "cannot read " + at("corrupt/stream_0") +
+                                    " to its end: No event class with ID of event class ID to "
+                                    "use in stream class: stream-class-id=0, event-class-id=238"});
 
   EventConsumer none;
-  tracing::TraceGraph missing(request("none"), none);
-  EXPECT_FALSE(missing.built());
-  EXPECT_EQ(missing.step(), tracing::TraceGraph::Step::Failed);
-  ASSERT_EQ(missing.problems().size(), 1u);
-  EXPECT_NE(missing.problems()[0].find("no CTF trace"), std::string::npos);
+  tracing::TraceGraph empty(request({at("tree/broken/..missing")}), none);
+  EXPECT_FALSE(empty.foundTraces());
+  EXPECT_FALSE(empty.built());
+  EXPECT_EQ(empty.step(), tracing::TraceGraph::Step::Failed);
+  EXPECT_EQ(empty.problems().back(),
+            "no CTF trace (a directory with a metadata file) in " + at("tree/broken/..missing"));
 }
 
-// ovfmt --trace on the same traces: text or JSON Lines, and a status and a note for typed
-// fields that did not decode (none in the first event) and for damage after valid events.
-TEST_F(TraceGraphTest, OvfmtPrintsTheTrace) {
-  const auto ovfmt = [](const std::string& options, const char* trace = "good") {
-    FILE* pipe = popen((OVFMT " --trace " WORK_DIR "/" + (trace + (" " + options))).c_str(), "r");
+// The lines printed before the process dies of a signal are written all the same.
+TEST_F(TraceGraphTest, PrintedLinesSurviveAnAbort) {
+  const std::string out = at("aborted.txt");
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(open(out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644), STDOUT_FILENO);
+    tracing::PrintingConsumer printer({}, {});
+    tracing::TraceGraph graph(request("good"), printer);
+    while (graph.step() == tracing::TraceGraph::Step::More) {
+    }
+    std::abort(); // before finish(): nothing was written yet
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT);
+  std::ifstream printed(out);
+  const std::string text((std::istreambuf_iterator<char>(printed)), {});
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 5) << text;
+}
+
+// ovfmt --trace on the same traces: its options, its one-line problems and its status.
+TEST_F(TraceGraphTest, OvfmtReadsTracesAsTheSinkDoes) {
+  const auto ovfmt = [](const std::string& arguments) {
+    const std::string command = OVFMT " 2>&1 " + arguments; // before any redirection of theirs
+    FILE* pipe = popen(command.c_str(), "r");
     std::string out(1 << 16, '\0');
     out.resize(fread(out.data(), 1, out.size(), pipe));
     const int status = pclose(pipe);
     return std::pair{WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
   };
-  const auto [status, first] = ovfmt("--end 1700000001.000000 2>&1");
-  EXPECT_EQ(status, 0);
-  EXPECT_TRUE(first.ends_with("addr = 10.0.0.1%et1 }\n")) << first;
-  EXPECT_EQ(std::count(first.begin(), first.end(), '\n'), 1) << first;
-  EXPECT_TRUE(ovfmt("--json").second.starts_with("{\"type\":\"schema\"")) << ovfmt("--json").second;
-  const auto full = ovfmt("2>&1 >/dev/full");
-  EXPECT_EQ(full.first, 1);
-  EXPECT_NE(full.second.find("ovfmt: cannot write the output\novfmt: "), std::string::npos)
-      << full.second;
-  const auto [damagedStatus, damaged] = ovfmt("--begin 1700000002 2>&1", "corrupt");
-  EXPECT_EQ(damagedStatus, 1);
-  EXPECT_NE(damaged.find("ovfmt: cannot read the trace to its end\n"), std::string::npos);
+  const std::string good = at("good"), lossy = at("discarded");
+  struct Case {
+    std::string arguments;
+    int status;
+    std::string shown; // a part of what is printed (stdout, then stderr)
+  };
+  const Case cases[] = {
+      {"--trace " + good + " --end 1700000001.000000", 0, "addr = 10.0.0.1%et1 }\n"},
+      {"--trace " + good + " --events 'app:*' --json", 0, "\"name\":\"app:message\",\"trace\":\"router1\""},
+      {"--trace " + lossy + " --events 'app:*'", 0, "ovfmt: 7 events and 1 packet discarded by the tracer\n"},
+      {"--trace " + lossy + " --events 'app:*' --fail-on-loss", 1, "1 packet discarded"},
+      {"--trace " + good + " >/dev/full", 1, "ovfmt: cannot write the output\n"},
+      {"--trace " + at("corrupt") + " --begin 1700000002", 1, "ovfmt: cannot read " + at("corrupt/stream_0") + " to its end: No event class"},
+      {"--trace " + at("none"), 2, "ovfmt: no CTF trace (a directory with a metadata file) in "},
+      {"--trace " + good + " --begin 99999999999999999999", 2, "ovfmt: the time \"99999999999999999999\" is out of range"},
+      {"--trace " + good + " --begin 2 --end 1", 2, "ovfmt: the range's begin is after its end\nTry"},
+      {"--trace " + good + " --counts", 2, "ovfmt: --counts does not go with --trace\n"},
+      {"--trace", 2, "ovfmt: --trace needs a trace: give INPUT...\n"},
+      {"--json PGO 01 14 0a 01 10", 2, "ovfmt: --json goes with --trace\n"},
+      {"--jsn --trace " + good, 2, "ovfmt: unknown option '--jsn' (did you mean --json?)\n"},
+      {"PGO -- --trace", 1, "ovfmt: PGO: "}, // after "--", a word like any other
+  };
+  for (const Case& c : cases) {
+    const auto [status, shown] = ovfmt(c.arguments);
+    EXPECT_EQ(status, c.status) << c.arguments << "\n" << shown;
+    EXPECT_NE(shown.find(c.shown), std::string::npos) << c.arguments << "\n" << shown;
+  }
 }
 
 } // namespace

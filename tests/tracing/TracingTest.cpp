@@ -201,7 +201,7 @@ TEST(Layouts, OneEventIsOneLineInEitherLayout) {
   EXPECT_EQ(text, "[22:13:20.000000000] r1 bgp:route: { cpu_id = 3 }, { flags = 0xff, delta = -2, "
                   "list = [ [0] = { ok = true }, [1] = null ], empty = [ ], nh = text\\x1b, "
                   "bad = <invalid: value too short [01 02]>, s = \"a\\nb\", r = 0.5 }\n");
-  EXPECT_EQ(json, R"({"type":"event","timestamp_ns":1700000000000000000,"name":"bgp:route",)"
+  EXPECT_EQ(json, R"({"type":"event","timestamp_ns":1700000000000000000,"name":"bgp:route","trace":"r1",)"
                   R"("context":{"cpu_id":3},"payload":{"flags":255,"delta":-2,)"
                   R"("list":[{"ok":true},null],"empty":[],"nh":"text\u001b",)"
                   R"("bad":{"invalid":"value too short","id":"BNH","hex":"0102"},)"

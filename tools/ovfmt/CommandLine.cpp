@@ -1,6 +1,7 @@
 #include "tools/ovfmt/CommandLine.h"
 
 #include "decoding/Problems.h"
+#include "tools/ovfmt/Suggest.h"
 
 #include <optional>
 
@@ -62,6 +63,16 @@ std::string quoted(std::string_view word) {
   return text;
 }
 
+// "unknown option '--jsn' (did you mean --json?)": a long option near one of the table's.
+std::string unknownOption(std::span<const OptionRow> rows, std::string_view word) {
+  std::string problem = "unknown option " + quoted(word);
+  if (!word.starts_with("--")) return problem;
+  std::vector<std::string> names;
+  for (const OptionRow& row : rows) names.push_back("--" + std::string(row.name));
+  const std::string near = nearestIds(word.substr(0, word.find('=')), names);
+  return near.empty() ? problem : problem + " (did you mean " + near + "?)";
+}
+
 } // namespace
 
 std::string parseCommandLine(std::span<const char* const> args, std::span<const OptionRow> rows,
@@ -80,7 +91,7 @@ std::string parseCommandLine(std::span<const char* const> args, std::span<const 
     const auto [row, inlineValue] = splitOptionWord(rows, word);
     // "-nX" is no cluster of flags: a flag's short form stands alone.
     if (!row || (inlineValue && row->valueName.empty() && !word.starts_with("--")))
-      return "unknown option " + quoted(word);
+      return unknownOption(rows, word);
     std::string_view value;
     if (row->valueName.empty()) {
       if (inlineValue) return "option '--" + std::string(row->name) + "' takes no value";

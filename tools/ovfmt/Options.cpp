@@ -17,7 +17,7 @@ constexpr std::string_view kForms[] = {
     "[OPTION]... --hexdump ID[,ID...] [FILE]",
     "[OPTION]... --list",
     "[OPTION]... --describe ID",
-    "[--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]",
+    "[OPTION]... --trace INPUT...",
 };
 
 constexpr std::string_view kDescription =
@@ -29,9 +29,13 @@ constexpr std::string_view kDescription =
     "the pairs, so a MAC reads as 00:1c:73:aa:bb:cc, 00-1c-73-aa-bb-cc or\n"
     "001c.73aa.bbcc; a '0x' before a byte is an error that says so. A FILE\n"
     "of '-', or none, is standard input. Options may come anywhere before a\n"
-    "'--', which ends them. --trace prints the events of the CTF traces in DIR,\n"
-    "typed fields as their formatters' text; --json prints JSON Lines, --begin\n"
-    "and --end keep the events from and up to time T (docs/traces.md).\n"
+    "'--', which ends them.\n"
+    "\n"
+    "--trace prints the events of the CTF traces under each INPUT (a trace, a\n"
+    "directory of traces, or an LTTng live URL net://HOST/host/NAME/SESSION),\n"
+    "merged in time order, typed fields as their formatters' text, as\n"
+    "'babeltrace2 INPUT... -c sink.orvane.text' prints them; the trace options\n"
+    "below are the sink's parameters (/usr/share/doc/orvane/traces.md).\n"
     "\n"
     "Control characters (bytes 0x00 to 0x1f and 0x7f) in a formatter's text\n"
     "print as \\xNN, so that one value is one line and no traced byte reaches a\n"
@@ -43,11 +47,18 @@ constexpr std::string_view kAfterOptions =
     "\n"
     "Exit status: 0 when every record printed, 1 when a record failed or the\n"
     "output could not be written, 2 on a usage error, an input file that cannot\n"
-    "be read or a plug-in that would not load.\n";
+    "be read or a plug-in that would not load. With --trace: 0 when every event\n"
+    "printed, 1 when a typed field was invalid, a trace, directory or stream\n"
+    "could not be read to its end (the events read are printed), the output\n"
+    "could not be written, or events were lost and --fail-on-loss is given; 2 on\n"
+    "a usage error, no trace under the INPUTs, or a plug-in that would not load.\n"
+    "\n"
+    "Environment: OVFMT_PLUGIN_DIR (see --plugin); OVPKT_HEX=True prints packets\n"
+    "as hex; TZ, the time zone of --trace's times unless --clock-gmt.\n";
 
 std::string setMode(Options& options, Mode mode) {
   if (options.modeGiven && options.mode != mode)
-    return "give only one of --batch, --hexdump, --list and --describe";
+    return "give only one of --batch, --hexdump, --list, --describe and --trace";
   options.mode = mode;
   options.modeGiven = true;
   return "";
@@ -68,6 +79,28 @@ template <bool Options::*flag> std::string set(Options& options, std::string_vie
 }
 template <bool PrintOptions::*flag> std::string setPrint(Options& options, std::string_view) {
   options.print.*flag = true;
+  return "";
+}
+
+// The help of the request parameter `name`, which the sink and Python share.
+constexpr std::string_view requestHelp(std::string_view name) {
+  return tracing::findRequestParameter(name)->help;
+}
+
+// Sets the request parameter `Name` from an option of the same name.
+template <const char* Name> std::string setTraceParameter(Options& options, std::string_view value) {
+  options.traceOnly.push_back(std::string("--") + Name);
+  return tracing::setRequestParameter(options.trace, Name, value);
+}
+
+constexpr char kBegin[] = "begin", kEnd[] = "end", kEvents[] = "events", kTypes[] = "types",
+               kClockSeconds[] = "clock-seconds", kClockDate[] = "clock-date",
+               kClockGmt[] = "clock-gmt", kNoDelta[] = "no-delta";
+
+// Sets a flag of --trace's own.
+template <bool Options::*flag> std::string setTraceFlag(Options& options, std::string_view) {
+  options.*flag = true;
+  options.traceOnly.push_back(flag == &Options::verbose ? "--verbose" : "--fail-on-loss");
   return "";
 }
 
@@ -146,7 +179,34 @@ constexpr OptionRow kOptions[] = {
      }},
     {"help", 'h', "", "print this help and exit", set<&Options::help>},
     {"version", 'V', "", "print the version and exit", set<&Options::version>},
+    // From here on, the options of --trace (traceOptionTable()).
+    {"trace", 0, "", "print the events of the traces each INPUT names",
+     [](Options& o, std::string_view) { return setMode(o, Mode::Trace); }},
+    {"json", 0, "", "print JSON Lines, not text lines",
+     [](Options& o, std::string_view) {
+       o.traceOnly.emplace_back("--json");
+       return tracing::setRequestParameter(o.trace, "format", "json");
+     }},
+    {kBegin, 0, "T", requestHelp(kBegin), setTraceParameter<kBegin>},
+    {kEnd, 0, "T", requestHelp(kEnd), setTraceParameter<kEnd>},
+    {kEvents, 0, "GLOB[,GLOB]", requestHelp(kEvents), setTraceParameter<kEvents>},
+    {kTypes, 0, "EVENT.FIELD=ID", requestHelp(kTypes), setTraceParameter<kTypes>},
+    {kClockSeconds, 0, "", requestHelp(kClockSeconds), setTraceParameter<kClockSeconds>},
+    {kClockDate, 0, "", requestHelp(kClockDate), setTraceParameter<kClockDate>},
+    {kClockGmt, 0, "", requestHelp(kClockGmt), setTraceParameter<kClockGmt>},
+    {kNoDelta, 0, "", requestHelp(kNoDelta), setTraceParameter<kNoDelta>},
+    {"fail-on-loss", 0, "", "exit 1 when the tracer lost events or packets",
+     setTraceFlag<&Options::failOnLoss>},
+    {"verbose", 'v', "", "print every cause libbabeltrace2 gives for a\nproblem, not one line",
+     setTraceFlag<&Options::verbose>},
 };
+
+// Where the options of --trace start in kOptions.
+constexpr std::size_t kFirstTraceOption = [] {
+  std::size_t i = 0;
+  while (kOptions[i].name != "trace") ++i;
+  return i;
+}();
 
 // The words a mode takes: how many, at least and at most.
 std::string checkWords(const Options& options) {
@@ -162,12 +222,33 @@ std::string checkWords(const Options& options) {
   case Mode::Describe:
     if (words == 0) return "--describe needs an id";
     return words > 1 ? "--describe takes one ID" : "";
+  case Mode::Trace: return words ? "" : "--trace needs a trace: give INPUT...";
   }
   return "";
 }
 
+// The value options that --trace does not take, by name; empty when none was given.
+std::string valueOptionIn(const Options& options) {
+  const PrintOptions& print = options.print;
+  if (print.counts) return "--counts";
+  if (print.raw) return "--raw";
+  if (options.separatorGiven) return "--sep";
+  if (options.layout) return "--template";
+  return "";
+}
+
+// Checks the options of --trace, or that none is given without it.
+std::string traceConflicts(const Options& options) {
+  if (options.mode != Mode::Trace)
+    return options.traceOnly.empty() ? "" : options.traceOnly.front() + " goes with --trace";
+  if (const std::string option = valueOptionIn(options); !option.empty())
+    return option + " does not go with --trace";
+  return tracing::checkRange(options.trace);
+}
+
 // Checks the options that only make sense together; returns a usage problem or "".
 std::string conflicts(const Options& options) {
+  if (std::string problem = traceConflicts(options); !problem.empty()) return problem;
   const PrintOptions& print = options.print;
   if (options.separatorGiven && options.layout)
     return "give --sep or --template, not both: the template holds the text between arguments";
@@ -199,13 +280,19 @@ std::string prepareTemplate(Options& options) {
 
 std::span<const OptionRow> optionTable() { return kOptions; }
 
+std::span<const OptionRow> traceOptionTable() {
+  return std::span(kOptions).subspan(kFirstTraceOption);
+}
+
 std::string helpText() {
   std::string help;
   for (std::string_view form : kForms)
     help += (help.empty() ? "Usage: ovfmt " : "  or:  ovfmt ") + std::string(form) + "\n";
   help += kDescription;
   help += "\nOptions:\n";
-  help += optionsHelp(kOptions);
+  help += optionsHelp(std::span(kOptions).first(kFirstTraceOption));
+  help += "\nTrace options:\n";
+  help += optionsHelp(traceOptionTable());
   help += kAfterOptions;
   return help;
 }

@@ -3,6 +3,7 @@
 
 #include "tools/ovfmt/CommandLine.h"
 #include "tools/ovfmt/RecordPrinter.h"
+#include "tracing/TraceRequest.h"
 
 #include <optional>
 #include <span>
@@ -11,9 +12,9 @@
 
 namespace Orvane::ovfmt {
 
-/// What ovfmt does: one record from the command line, a batch, a hex dump, the list, or
-/// the reference of one id.
-enum class Mode { Record, Batch, HexDump, List, Describe };
+/// What ovfmt does: one record from the command line, a batch, a hex dump, the list, the
+/// reference of one id, or the events of traces.
+enum class Mode { Record, Batch, HexDump, List, Describe, Trace };
 
 /// Everything the command line sets.
 struct Options {
@@ -28,10 +29,17 @@ struct Options {
   std::optional<std::string> layout; ///< the --template text
   PrintOptions print;
   std::vector<std::string> positional; ///< the words that are no option, in order
+  tracing::TraceRequest trace;         ///< what --trace reads (its inputs are `positional`)
+  std::vector<std::string> traceOnly;  ///< the options given that apply to --trace only
+  bool failOnLoss = false;             ///< --trace exits 1 when events were lost
+  bool verbose = false;                ///< --trace prints libbabeltrace2's causes too
 };
 
 /// Every option ovfmt takes, one row each, in --help order.
 std::span<const OptionRow> optionTable();
+
+/// The rows of optionTable() that apply to --trace only, last in the table.
+std::span<const OptionRow> traceOptionTable();
 
 /// What `ovfmt --help` prints.
 std::string helpText();

@@ -1,24 +1,17 @@
 // ovfmt --trace: printing the events of CTF traces, typed fields as their formatters'
-// text, exactly as `babeltrace2 DIR -c sink.orvane.text` prints them.
+// text, exactly as `babeltrace2 INPUT... -c sink.orvane.text` prints them.
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
+#include "tools/ovfmt/Options.h"
 
 namespace Orvane::ovfmt {
 
-/// Whether the command line asks for --trace.
-bool isTraceCommand(int argc, char** argv);
-
-/// Loads the plug-ins given with --plugin (the default ones when none is given) and the
-/// host's base types; returns false, having reported why, when one would not load.
-using PluginLoading = std::function<bool(const std::vector<std::string>& plugins)>;
-
-/// Runs `ovfmt [--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]` and
-/// returns the exit status: 0 every event printed, 1 the trace could not be read to its
-/// end, a typed field was invalid or the output could not be written, 2 a usage error,
-/// no trace in DIR or a plug-in that would not load.
-int runTrace(int argc, char** argv, const PluginLoading& loadPlugins);
+/// Reads the traces under `options.positional` as `options.trace` asks (the formatters
+/// already loaded) and returns the exit status: 0 every event printed; 1 a typed field
+/// was invalid, something could not be read to its end, the output could not be
+/// written, or events were lost with `failOnLoss`; 2 no trace under the inputs. Prints
+/// one line per problem on stderr (every cause with `verbose`), and one line that sums
+/// up the events and packets lost, if any were.
+int runTrace(const Options& options);
 
 } // namespace Orvane::ovfmt

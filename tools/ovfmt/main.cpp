@@ -164,12 +164,6 @@ int formatHexDump(const Options& options) {
 
 int main(int argc, char** argv) {
   Options options;
-  if (ovfmt::isTraceCommand(argc, argv))
-    return ovfmt::runTrace(argc, argv, [](const std::vector<std::string>& plugins) {
-      if (!ovfmt::loadPlugins(plugins, true, defaultPlugin())) return false;
-      host::registerBaseTypes();
-      return true;
-    });
   if (std::string problem = ovfmt::readOptions(argc, argv, options); !problem.empty())
     return usageError(problem);
   if (options.help) return printText(ovfmt::helpText());
@@ -183,6 +177,7 @@ int main(int argc, char** argv) {
   case Mode::Describe: return ovfmt::describe(options.positional.front(), std::cout, std::cerr);
   case Mode::Batch: return formatBatch(options);
   case Mode::HexDump: return formatHexDump(options);
+  case Mode::Trace: return ovfmt::runTrace(options);
   case Mode::Record: break;
   }
   return formatRecord(options);
