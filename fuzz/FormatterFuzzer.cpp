@@ -31,21 +31,22 @@
 // then the host's base types), the rest is the record. The record walker decodes it in
 // its guarded buffer as ovfmt does; then the arguments that fit are walked again in
 // place in a heap block of exactly their bytes, and must give the same lengths, counts
-// and texts. Ids with guard areas above are left out of records: they read outside their
-// own length.
+// and texts; the texts escaped in place, as ovfmt escapes a line, must read as each text
+// escaped alone. Ids with guard areas above are left out of records: they read outside
+// their own length.
 //
 // Trace fields (with ORVANE_FUZZ_TRACE=1 set, and a build with the trace reader): the
 // first byte picks an id (every registered id, then one nobody registered), the rest is
 // a typed field's bytes in a heap block of exactly their size, decoded as the trace
 // reader decodes it. The verdict must match the length function's, and the text, once
 // escaped for a text line and for JSON, must hold no control character.
+#include "decoding/Escape.h"
 #include "decoding/GuardedBuffer.h"
 #include "decoding/Record.h"
 #include "host/BaseTypes.h"
 #include "host/Registry.h"
 #include "registry/FormatMap.h"
 #ifdef ORVANE_FUZZ_TRACING
-#include "tracing/Escape.h"
 #include "tracing/TypedValue.h"
 #endif
 
@@ -200,12 +201,27 @@ void fuzzRecord(const unsigned char* data, std::size_t size) {
       fail("a count", i);
     if (again[i].text != arguments[i].text) fail("the text", i);
   }
+
+  // Escaped in place as ovfmt escapes a line, tabs between the texts, the line is each
+  // text escaped alone with its tab before it.
+  static decoding::TextStream line;
+  static const std::vector<std::string_view> tabs(8, "\t");
+  line.clear();
+  const auto printed = guarded.walk(types, line, tabs);
+  std::string expected;
+  for (const decoding::Argument& argument : printed) {
+    expected += '\t';
+    decoding::appendEscapedText(expected, argument.text);
+  }
+  decoding::escapeTexts(printed, line);
+  if (line.text() != expected) fail("the escaped line", printed.size() - 1);
 }
 
 #ifdef ORVANE_FUZZ_TRACING
 void expectPrintable(const std::string& escaped, const char* layout) {
-  for (unsigned char c : escaped)
-    if (c < 0x20 || c == 0x7f) {
+  for (std::size_t i = 0; i < escaped.size(); ++i)
+    if (decoding::isControl(static_cast<unsigned char>(escaped[i])) ||
+        decoding::isC1At(escaped, i)) {
       std::fprintf(stderr, "trace field: a control character left in the %s layout\n", layout);
       std::abort();
     }
@@ -237,8 +253,8 @@ void fuzzTraceField(const unsigned char* data, std::size_t size) {
     std::abort();
   }
   std::string text, json;
-  tracing::appendEscapedText(text, result.valid ? result.text : result.reason);
-  tracing::appendJsonString(json, result.valid ? result.text : result.reason);
+  decoding::appendEscapedText(text, result.valid ? result.text : result.reason);
+  decoding::appendJsonString(json, result.valid ? result.text : result.reason);
   expectPrintable(text, "text");
   expectPrintable(json, "JSON");
 }

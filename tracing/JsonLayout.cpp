@@ -1,6 +1,6 @@
 #include "tracing/JsonLayout.h"
 
-#include "tracing/Escape.h"
+#include "decoding/Escape.h"
 #include "tracing/Numbers.h"
 
 namespace Orvane::tracing {
@@ -42,7 +42,7 @@ void JsonLayout::real(double value) { appendReal(out_, value, "null"); }
 
 void JsonLayout::string(std::string_view value) {
   out_ += '"';
-  appendJsonString(out_, value);
+  decoding::appendJsonString(out_, value);
   out_ += '"';
 }
 
@@ -57,7 +57,7 @@ void JsonLayout::typed(std::string_view id, const TypedResult& result,
   out_ += R"(,"id":)";
   string(id);
   out_ += R"(,"hex":")";
-  appendHex(out_, bytes.data(), bytes.size(), "");
+  decoding::appendHex(out_, bytes.data(), bytes.size(), "");
   out_ += R"("})";
 }
 

@@ -1,6 +1,6 @@
 #include "tracing/MessagePrinter.h"
 
-#include "tracing/Escape.h"
+#include "decoding/Escape.h"
 #include "tracing/Numbers.h"
 
 namespace Orvane::tracing {
@@ -109,7 +109,7 @@ void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
     out_ += R"(,"end_ns":)";
     appendBoundary(d.end);
     out_ += R"(,"trace":")";
-    appendJsonString(out_, traceOf(d.stream));
+    decoding::appendJsonString(out_, traceOf(d.stream));
     out_ += R"(","stream_id":)";
     appendUnsigned(out_, bt_stream_get_id(d.stream), false);
     out_ += "}\n";
@@ -125,7 +125,7 @@ void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
     appendBoundary(d.end);
   }
   warnings_ += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
-  appendEscapedText(warnings_, traceOf(d.stream));
+  decoding::appendEscapedText(warnings_, traceOf(d.stream));
   warnings_ += "\"\n";
 }
 

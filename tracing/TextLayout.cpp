@@ -1,6 +1,6 @@
 #include "tracing/TextLayout.h"
 
-#include "tracing/Escape.h"
+#include "decoding/Escape.h"
 #include "tracing/Numbers.h"
 
 namespace Orvane::tracing {
@@ -10,10 +10,10 @@ void TextLayout::beginEvent(const EventInfo& event) {
   scopeBefore_ = false;
   if (event.hasTimestamp) clock_.append(out_, event.timestampNs);
   if (!event.trace.empty()) {
-    appendEscapedText(out_, event.trace);
+    decoding::appendEscapedText(out_, event.trace);
     out_ += ' ';
   }
-  appendEscapedText(out_, event.name);
+  decoding::appendEscapedText(out_, event.name);
   out_ += ':';
 }
 
@@ -25,7 +25,7 @@ void TextLayout::beginScope(Scope) {
 
 void TextLayout::member(std::string_view name) {
   separate();
-  appendEscapedText(out_, name);
+  decoding::appendEscapedText(out_, name);
   out_ += " = ";
 }
 
@@ -46,20 +46,20 @@ void TextLayout::real(double value) { appendReal(out_, value, "nan"); }
 
 void TextLayout::string(std::string_view value) {
   out_ += '"';
-  appendEscapedText(out_, value, true);
+  decoding::appendEscapedText(out_, value, true);
   out_ += '"';
 }
 
 void TextLayout::typed(std::string_view, const TypedResult& result,
                        std::span<const unsigned char> bytes) {
   if (result.valid) {
-    appendEscapedText(out_, result.text);
+    decoding::appendEscapedText(out_, result.text);
     return;
   }
   out_ += "<invalid: ";
-  appendEscapedText(out_, result.reason);
+  decoding::appendEscapedText(out_, result.reason);
   out_ += " [";
-  appendHex(out_, bytes.data(), bytes.size(), " ");
+  decoding::appendHex(out_, bytes.data(), bytes.size(), " ");
   out_ += "]>";
 }
 

@@ -2,7 +2,6 @@
 // escaped control characters, batch lines that say where they come from, hex dumps,
 // plug-ins beside the built-in one, and exit statuses that tell the truth.
 #include "tests/support/RunOvfmt.h"
-#include "tools/ovfmt/Escape.h"
 #include "tools/ovfmt/Options.h"
 #include "tools/ovfmt/Plugins.h"
 #include "tools/ovfmt/Suggest.h"
@@ -169,13 +168,18 @@ TEST(OvfmtConventions, UnknownIdSuggestsTheNearest) {
   EXPECT_EQ(ovfmt::nearestIds("E", {"EMK"}), ""); // two insertions
 }
 
-// "str" prints its bytes as they are: a tab, an escape and DEL among them.
+// "str" prints its bytes as they are: a tab, an escape, DEL and a C1 control (CSI as
+// UTF-8) among them; C2 A0 and a C2 at the end are no control.
 TEST(OvfmtConventions, ControlCharactersAreEscapedUnlessRaw) {
   const std::string controls = "05 41 09 1b 7f c3";
+  const std::string c1 = "06 c2 9b c2 a0 41 c2";
   expectRuns({
       {{"str", controls}, "", "A\\x09\\x1b\\x7f\xc3\n", "", 0},
       {{"--raw", "str", controls}, "", "A\t\x1b\x7f\xc3\n", "", 0},
       {{"--counts", "str", controls}, "", "str\t6\t6\tA\\x09\\x1b\\x7f\xc3\n", "", 0},
+      {{"str", c1}, "", "\\xc2\\x9b\xc2\xa0" "A\xc2\n", "", 0},
+      {{"--raw", "str", c1}, "", "\xc2\x9b\xc2\xa0" "A\xc2\n", "", 0},
+      {{"--counts", "str", c1}, "", "str\t7\t7\t\\xc2\\x9b\xc2\xa0" "A\xc2\n", "", 0},
       // The separator and the template are the user's own text: they stay as given.
       {{"--sep", "\t", "str,str,I", "01 0a 01 41 01 00 00 0a"}, "", "\\x0a\tA\t10.0.0.1\n", "", 0},
       {{"--template", "<{}>\t<{}>", "I,str", "01 00 00 0a 02 0d 0a"},
@@ -185,18 +189,6 @@ TEST(OvfmtConventions, ControlCharactersAreEscapedUnlessRaw) {
        0},
       {{"--batch"}, "str 01 0a\nstr 01 42\n", "\\x0a\nB\n", "", 0},
   });
-}
-
-// The scan reads eight bytes at a time: a control character is found at every place of
-// texts up to two words long, and the bytes nearest to one are not taken for one.
-TEST(OvfmtConventions, ControlCharactersAreFoundAtEveryPlace) {
-  for (std::size_t size = 1; size <= 17; ++size)
-    for (std::size_t at = 0; at < size; ++at)
-      for (const int byte : {0x00, 0x1f, 0x7f, 0x20, 0x7e, 0x80, 0xa0, 0xff}) {
-        std::string text(size, '\x80');
-        text[at] = static_cast<char>(byte);
-        EXPECT_EQ(ovfmt::containsControl(text), byte < 0x20 || byte == 0x7f) << size << ' ' << at;
-      }
 }
 
 TEST(OvfmtConventions, BatchLinesSayWhereTheyCameFrom) {

@@ -37,8 +37,9 @@ constexpr std::string_view kDescription =
     "'babeltrace2 INPUT... -c sink.orvane.text' prints them; the trace options\n"
     "below are the sink's parameters (/usr/share/doc/orvane/traces.md).\n"
     "\n"
-    "Control characters (bytes 0x00 to 0x1f and 0x7f) in a formatter's text\n"
-    "print as \\xNN, so that one value is one line and no traced byte reaches a\n"
+    "Control characters in a formatter's text (bytes 0x00 to 0x1f and 0x7f,\n"
+    "and C2 80 to C2 9F, U+0080 to U+009F in UTF-8) print as \\xNN, byte by\n"
+    "byte, so that one value is one line and no traced byte reaches a\n"
     "terminal as a control sequence; --raw prints the text as the formatter\n"
     "made it. Errors go to standard error, one line each, naming the record\n"
     "(FILE:LINE in a batch) and the problem; a record that fails prints no text.\n";

@@ -1,7 +1,7 @@
 #include "tools/ovfmt/RecordPrinter.h"
 
+#include "decoding/Escape.h"
 #include "decoding/Problems.h"
-#include "tools/ovfmt/Escape.h"
 #include "tools/ovfmt/Hex.h"
 #include "tools/ovfmt/Suggest.h"
 
@@ -125,7 +125,7 @@ bool RecordPrinter::printText(const Where& where, Output& output) {
     text.truncate(start);
     return fail(where, decoding::firstFaultProblem(arguments, types_.size(), recordSize), output);
   }
-  if (!options_.raw) escapeTexts(arguments, text);
+  if (!options_.raw) decoding::escapeTexts(arguments, text);
   if (options_.layout) text.append(options_.layout->literal(types_.size()));
   text.append('\n');
   return reportLeftover(where, arguments, output);
@@ -158,7 +158,7 @@ void RecordPrinter::appendText(std::string_view text, decoding::TextStream& out)
   if (options_.raw)
     out.append(text);
   else
-    appendEscaped(text, out);
+    decoding::appendEscapedText(out, text);
 }
 
 bool RecordPrinter::reportLeftover(const Where& where,

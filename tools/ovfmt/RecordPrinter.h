@@ -24,7 +24,7 @@ struct PrintOptions {
   std::optional<decoding::Template> layout;
   std::string separator = " ";
   /// The formatters' texts as they made them, control characters included; otherwise
-  /// each control character prints as "\xNN" (see Escape.h).
+  /// they are escaped by the text rule of decoding/Escape.h (a control as "\xNN").
   bool raw = false;
   /// Start every output line with "FILE:" (the source's name), then "LINE:" (its line).
   bool nameSource = false;
