@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""A fleet's traces in one report: per router and per event, how many events, and the
-ten most frequent values of one typed field.
+"""A fleet's traces in one report: per router, the events its tracer lost, and per event,
+how many events and the ten most frequent values of one typed field.
 
 TRACES holds one trace directory per router (its name is the router's). The work runs on
 Dask: a distributed.LocalCluster of worker processes on this machine by default, the
@@ -41,22 +41,35 @@ def report(paths, field):
     values = (bag.filter(lambda e: field in e["fields"])
               .map(lambda e: (router(e), e["event"], str(e["fields"][field])))
               .frequencies())
-    counts, values = dask.compute(counts, values)
-    return render(dict(counts), values, field)
+    lost = orvane.dask.discarded(paths)  # read with the events: one compute below
+    counts, values, lost = dask.compute(counts, values, lost)
+    losses = {Path(trace["trace"]).name: trace for trace in lost}
+    return render(dict(counts), values, field, losses)
 
 
-def render(counts, values, field):
+def render(counts, values, field, losses):
+    """The report's text: counts by (router, event), the frequencies of (router, event,
+    value) and the discarded dict of each router, by router."""
     top = collections.defaultdict(list)
     for (router, event, value), count in values:
         top[router, event].append((-count, value))
     lines = []
-    for router in sorted({router for router, _ in counts}):
+    for router in sorted({router for router, _ in counts} | set(losses)):
         lines.append(router)
+        if router in losses and (losses[router]["events"] or losses[router]["packets"]):
+            lines.append("  lost by the tracer: " + lost_text(losses[router]))
         for event in sorted(event for r, event in counts if r == router):
             lines.append(f"  {event}: {counts[router, event]} events")
             for count, value in sorted(top[router, event])[:TOP]:
                 lines.append(f"    {field} {value}: {-count}")
     return "\n".join(lines) + "\n"
+
+
+def lost_text(loss):
+    """What a router's tracer discarded, as "7 events, 1 packet"."""
+    def plural(count, word):
+        return f"{count} {word}" + ("" if count == 1 else "s")
+    return f"{plural(loss['events'], 'event')}, {plural(loss['packets'], 'packet')}"
 
 
 def main(argv):

@@ -244,14 +244,15 @@ after the first plug-in. Loading a plug-in again does nothing. Raises LoadError
 (an OSError) naming each path that failed.)");
 #ifdef ORVANE_WITH_TRACES
   py::class_<TraceReader>(m, "TraceReader",
-                          "The event batches of a trace; orvane.trace.events() reads with it.")
-      .def(py::init<const std::string&, const std::optional<std::string>&,
-                    const std::optional<std::string>&, py::object,
-                    const std::vector<std::string>&>(),
-           py::arg("path"), py::arg("begin"), py::arg("end"), py::arg("invalid_type"),
-           py::arg("types"))
+                          "The event batches of traces; orvane.trace.events() reads with it.")
+      .def(py::init<const std::vector<std::string>&, py::handle, py::handle,
+                    const std::vector<std::string>&, const std::vector<std::string>&, py::object>(),
+           py::arg("inputs"), py::arg("begin"), py::arg("end"), py::arg("events"), py::arg("types"),
+           py::arg("invalid_type"))
       .def("__iter__", [](TraceReader& reader) -> TraceReader& { return reader; })
-      .def("__next__", &TraceReader::next);
+      .def("__next__", &TraceReader::next)
+      .def("problems", &TraceReader::problems,
+           "What could not be read, one line each; empty unless something could not.");
 #endif
   m.def("ids", &ids, "Every registered id, sorted: the plug-ins' and the host's base types.");
   m.def("length", &length, py::arg("id"), py::arg("data"),

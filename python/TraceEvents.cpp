@@ -2,6 +2,7 @@
 
 #include "python/Plugins.h"
 #include "python/PyText.h"
+#include "tracing/Escape.h"
 
 #include <utility>
 
@@ -18,20 +19,98 @@ py::bytes toBytes(std::span<const unsigned char> bytes) {
   return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-/// The problems of `graph` as one message.
-std::string problemsOf(const tracing::TraceGraph& graph) {
-  std::string message;
-  for (const std::string& problem : graph.problems())
-    message += (message.empty() ? "" : ": ") + problem;
-  return message.empty() ? "the trace cannot be read" : message;
+/// What a discarded-events or discarded-packets record says.
+struct DiscardedRecord {
+  const bt_stream* stream = nullptr;
+  bool hasCount = false;
+  std::uint64_t count = 0;
+  const bt_clock_snapshot* begin = nullptr; ///< null when the stream's records have no times
+  const bt_clock_snapshot* end = nullptr;
+};
+
+DiscardedRecord discardedEventsOf(const bt_message* message) {
+  DiscardedRecord d;
+  d.stream = bt_message_discarded_events_borrow_stream_const(message);
+  d.hasCount = bt_message_discarded_events_get_count(message, &d.count) ==
+               BT_PROPERTY_AVAILABILITY_AVAILABLE;
+  if (bt_stream_class_discarded_events_have_default_clock_snapshots(
+          bt_stream_borrow_class_const(d.stream))) {
+    d.begin = bt_message_discarded_events_borrow_beginning_default_clock_snapshot_const(message);
+    d.end = bt_message_discarded_events_borrow_end_default_clock_snapshot_const(message);
+  }
+  return d;
 }
 
-tracing::TypeMap typeMapOf(const std::vector<std::string>& entries) {
-  tracing::TypeMap types;
-  for (const std::string& entry : entries)
-    if (!types.add(entry))
-      throw py::value_error("types takes \"EVENT.FIELD=ID\" strings, not \"" + entry + "\"");
-  return types;
+DiscardedRecord discardedPacketsOf(const bt_message* message) {
+  DiscardedRecord d;
+  d.stream = bt_message_discarded_packets_borrow_stream_const(message);
+  d.hasCount = bt_message_discarded_packets_get_count(message, &d.count) ==
+               BT_PROPERTY_AVAILABILITY_AVAILABLE;
+  if (bt_stream_class_discarded_packets_have_default_clock_snapshots(
+          bt_stream_borrow_class_const(d.stream))) {
+    d.begin = bt_message_discarded_packets_borrow_beginning_default_clock_snapshot_const(message);
+    d.end = bt_message_discarded_packets_borrow_end_default_clock_snapshot_const(message);
+  }
+  return d;
+}
+
+/// The line the text sink's warning says, with times as nanoseconds from the clock's
+/// origin, the unit of Event.timestamp_ns: "7 events discarded between timestamp_ns A
+/// and B in stream 0 of trace "router1"".
+std::string discardedMessage(const DiscardedRecord& d, bool packets, std::string_view trace) {
+  const char* what = packets ? (d.hasCount && d.count == 1 ? "packet" : "packets")
+                             : (d.hasCount && d.count == 1 ? "event" : "events");
+  std::string line = (d.hasCount ? std::to_string(d.count) : "some") + " " + what + " discarded";
+  std::int64_t beginNs = 0, endNs = 0;
+  if (tracing::nsFromOrigin(d.begin, beginNs) && tracing::nsFromOrigin(d.end, endNs))
+    line += " between timestamp_ns " + std::to_string(beginNs) + " and " + std::to_string(endNs);
+  line += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
+  tracing::appendEscapedText(line, trace);
+  return line + "\"";
+}
+
+/// Sets the parameter `name` from one text; raises ValueError with the request's problem.
+void setParameter(tracing::TraceRequest& request, const char* name, std::string_view text) {
+  if (std::string problem = tracing::setRequestParameter(request, name, text); !problem.empty())
+    throw py::value_error(problem);
+}
+
+/// Sets the time bound `name` from None, an int of nanoseconds or a str. An int past the
+/// 64-bit range goes through the text form, whose problem says so.
+void setBound(tracing::TraceRequest& request, const char* name, py::handle value) {
+  if (value.is_none()) return;
+  if (PyUnicode_Check(value.ptr())) return setParameter(request, name, value.cast<std::string>());
+  if (!PyLong_Check(value.ptr()) || PyBool_Check(value.ptr()))
+    throw py::type_error(std::string(name) + " takes an int of nanoseconds or a str, not " +
+                         Py_TYPE(value.ptr())->tp_name);
+  int overflow = 0;
+  const long long ns = PyLong_AsLongLongAndOverflow(value.ptr(), &overflow);
+  if (overflow != 0) return setParameter(request, name, py::str(value).cast<std::string>());
+  (std::string_view(name) == "begin" ? request.begin : request.end) =
+      tracing::TimeBound::nanoseconds(ns);
+}
+
+tracing::TraceRequest requestOf(const std::vector<std::string>& inputs, py::handle begin,
+                                py::handle end, const std::vector<std::string>& events,
+                                const std::vector<std::string>& types) {
+  tracing::TraceRequest request;
+  request.inputs = inputs;
+  setBound(request, "begin", begin);
+  setBound(request, "end", end);
+  for (const std::string& glob : events) setParameter(request, "events", glob);
+  for (const std::string& entry : types) setParameter(request, "types", entry);
+  if (std::string problem = tracing::checkRange(request); !problem.empty())
+    throw py::value_error(problem);
+  return request;
+}
+
+/// "no CTF trace (...) in A, B", then what could not be read, on one line.
+std::string noTraceMessage(const std::vector<std::string>& inputs,
+                           const std::vector<std::string>& problems) {
+  std::string message = "no CTF trace (a directory with a metadata file) in ";
+  for (std::size_t i = 0; i < inputs.size(); ++i) message += (i ? ", " : "") + inputs[i];
+  for (std::size_t i = 0; i < problems.size(); ++i) message += (i ? "; " : ": ") + problems[i];
+  return message;
 }
 
 } // namespace
@@ -39,16 +118,51 @@ tracing::TypeMap typeMapOf(const std::vector<std::string>& entries) {
 EventTuples::EventTuples(py::object invalidType, tracing::TypeMap types)
     : invalidType_(std::move(invalidType)), walker_(std::move(types)) {}
 
-py::list EventTuples::take() { return std::exchange(batch_, py::list()); }
+py::tuple EventTuples::take() {
+  if (ended_.empty()) return py::make_tuple(std::exchange(batch_, py::list()), py::none());
+  py::tuple oldest = std::move(ended_.front());
+  ended_.pop_front();
+  return oldest;
+}
 
 void EventTuples::consume(const bt_message* message) {
-  if (error_ || bt_message_get_type(message) != BT_MESSAGE_TYPE_EVENT) return;
+  if (error_) return;
   try { // nothing may unwind through libbabeltrace2's C frames
-    walker_.walk(bt_message_event_borrow_event_const(message), tracing::eventInfoOf(message),
-                 *this);
+    switch (bt_message_get_type(message)) {
+    case BT_MESSAGE_TYPE_EVENT: consumeEvent(message); break;
+    case BT_MESSAGE_TYPE_DISCARDED_EVENTS: consumeDiscarded(message, false); break;
+    case BT_MESSAGE_TYPE_DISCARDED_PACKETS: consumeDiscarded(message, true); break;
+    default: break;
+    }
   } catch (...) {
     error_ = std::current_exception();
   }
+}
+
+void EventTuples::consumeEvent(const bt_message* message) {
+  const bt_event* event = bt_message_event_borrow_event_const(message);
+  followTrace(bt_event_borrow_stream_const(event));
+  tracing::EventInfo info = tracing::eventInfoOf(message);
+  info.trace = traceName_;
+  walker_.walk(event, info, *this);
+}
+
+void EventTuples::consumeDiscarded(const bt_message* message, bool packets) {
+  const DiscardedRecord record = packets ? discardedPacketsOf(message) : discardedEventsOf(message);
+  followTrace(record.stream);
+  DiscardedCounts& counts = discarded_[traceName_];
+  (packets ? counts.packets : counts.events) += record.hasCount ? record.count : 0;
+  py::tuple discarded = py::make_tuple(trace_, counts.events, counts.packets,
+                                       toStr(discardedMessage(record, packets, traceName_)));
+  ended_.push_back(py::make_tuple(std::exchange(batch_, py::list()), std::move(discarded)));
+}
+
+void EventTuples::followTrace(const bt_stream* stream) {
+  const bt_trace* trace = bt_stream_borrow_trace_const(stream);
+  if (trace == lastTrace_ && trace_) return;
+  lastTrace_ = trace;
+  traceName_ = tracing::traceNameOf(trace);
+  trace_ = nameOf(traceName_);
 }
 
 void EventTuples::rethrowError() {
@@ -63,11 +177,12 @@ void EventTuples::beginEvent(const tracing::EventInfo& event) {
 }
 
 void EventTuples::endEvent() {
-  py::tuple event(4);
+  py::tuple event(5);
   PyTuple_SET_ITEM(event.ptr(), 0, name_.release().ptr());
   PyTuple_SET_ITEM(event.ptr(), 1, timestamp_.release().ptr());
   PyTuple_SET_ITEM(event.ptr(), 2, containers_.front().release().ptr());
   PyTuple_SET_ITEM(event.ptr(), 3, raw_.release().ptr());
+  PyTuple_SET_ITEM(event.ptr(), 4, trace_.inc_ref().ptr());
   if (PyList_Append(batch_.ptr(), event.ptr()) != 0) throw py::error_already_set();
 }
 
@@ -128,26 +243,30 @@ py::object& EventTuples::nameOf(std::string_view name) {
   return found->second;
 }
 
-TraceReader::TraceReader(const std::string& path, const std::optional<std::string>& begin,
-                         const std::optional<std::string>& end, py::object invalidType,
-                         const std::vector<std::string>& types)
-    : events_(std::make_unique<EventTuples>(std::move(invalidType), typeMapOf(types))) {
+TraceReader::TraceReader(const std::vector<std::string>& inputs, py::handle begin, py::handle end,
+                         const std::vector<std::string>& events,
+                         const std::vector<std::string>& types, py::object invalidType) {
+  tracing::TraceRequest request = requestOf(inputs, begin, end, events, types);
   ensurePluginLoaded();
-  if (tracing::findTraces(path).empty()) // the graph would say less
-    throw py::value_error("no CTF trace (a directory with a metadata file) in " + path);
-  graph_ = std::make_unique<tracing::TraceGraph>(
-      tracing::TraceRequest{path, false, begin.value_or(""), end.value_or("")}, *events_);
-  if (!graph_->built()) throw py::value_error(problemsOf(*graph_));
+  events_ = std::make_unique<EventTuples>(std::move(invalidType), request.types);
+  graph_ = std::make_unique<tracing::TraceGraph>(request, *events_);
+  if (!graph_->foundTraces()) throw py::value_error(noTraceMessage(inputs, graph_->problems()));
 }
 
-py::list TraceReader::next() {
-  while (step_ == tracing::TraceGraph::Step::More && events_->pending() < kBatchEvents)
+py::tuple TraceReader::next() {
+  while (step_ == tracing::TraceGraph::Step::More && !events_->hasEndedBatch() &&
+         events_->pending() < kBatchEvents)
     step_ = graph_->step();
   // The events read before a failure come first; the failure with the next call.
-  if (events_->pending() > 0) return events_->take();
+  if (events_->hasEndedBatch() || events_->pending() > 0) return events_->take();
   events_->rethrowError();
-  if (step_ == tracing::TraceGraph::Step::Failed) throw py::value_error(problemsOf(*graph_));
   throw py::stop_iteration();
+}
+
+std::vector<std::string> TraceReader::problems() const {
+  if (step_ != tracing::TraceGraph::Step::Failed && !graph_->damaged()) return {};
+  if (graph_->problems().empty()) return {"the traces cannot be read to their end"};
+  return graph_->problems();
 }
 
 } // namespace Orvane::python

@@ -1,33 +1,50 @@
-"""orvane.trace and orvane.dask: traces written byte by byte (every kind of invalid value),
-and a fleet of four traces of the example speaker recorded through LTTng-UST, checked
-against babeltrace2's own Python reading and the formatters' texts."""
+"""orvane.trace and orvane.dask: traces written byte by byte (every kind of invalid value,
+lost events, damage made here from them), and a fleet of four traces of the example
+speaker recorded through LTTng-UST, checked against babeltrace2's own Python reading and
+the formatters' texts."""
 
+import collections
 import doctest
 import os
+import pickle
+import shutil
 import subprocess
 import sys
 import unittest
+import warnings
 from pathlib import Path
+from unittest import mock
 
 import bt2
+import dask
 import orvane
 import orvane.dask
 import orvane.trace
-from orvane.trace import InvalidValue
+from orvane.trace import DiscardedEventsWarning, InvalidValue, TraceReadError
 
 TESTS = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(TESTS / "tracing"))
 sys.path.insert(0, str(TESTS.parent / "examples"))
+import ctf_writer  # noqa: E402
 import fleet_report  # noqa: E402
 import make_trace  # noqa: E402
 
 WORK = Path(os.environ["WORK_DIR"])
 ROUTERS = ["r1", "r2", "r3", "r4"]
+WRITTEN = WORK / "written"
+FIRST_NS = (ctf_writer.CLOCK_OFFSET_S + 1) * make_trace.SECOND  # the good trace's first event
+SEQS = [1, 2, 3, 4, 5]
 
 
 def setUpModule():
     subprocess.run(["rm", "-rf", str(WORK)], check=True)
-    make_trace.main(WORK / "written")
+    make_trace.main(WRITTEN)
+    for trace in ("good", "discarded"):  # two traces under one directory
+        shutil.copytree(WRITTEN / trace, WORK / "pair" / trace)
+    # A trace whose data file is cut short: its source cannot be opened.
+    shutil.copytree(WRITTEN / "discarded", WORK / "damaged" / "cut")
+    stream = WORK / "damaged" / "cut" / "stream_0"
+    stream.write_bytes(stream.read_bytes()[:-40])
     # Recorded without the sanitizer runtime this interpreter may have preloaded.
     env = {k: v for k, v in os.environ.items() if k != "LD_PRELOAD"}
     for seed, router in enumerate(ROUTERS, 1):
@@ -120,16 +137,99 @@ class WrittenTrace(unittest.TestCase):
         self.assertEqual([e.fields["raw"] for e in events if e.fields["seq"] == 4],
                          ["10.1.16.0/20"])
 
-    def test_errors(self):
-        for path, types, words in [(WORK / "nowhere", (), "no CTF trace"),
-                                   (WORK / "written" / "good", ["route=PGO"], "EVENT.FIELD=ID")]:
-            with self.subTest(path=path), self.assertRaisesRegex(ValueError, words):
-                list(orvane.trace.events(path, types=types))
-        read = []
-        with self.assertRaises(ValueError):
-            for event in orvane.trace.events(WORK / "written" / "corrupt"):
-                read.append(event.fields["seq"])
-        self.assertEqual(read[:5], [1, 2, 3, 4, 5])  # the events before the damage
+    def test_events_and_bounds_keep_what_they_name(self):
+        at = lambda seq: FIRST_NS + (seq - 1) * 1000  # noqa: E731 (events 1 µs apart)
+        cases = [  # (keywords, the seqs kept)
+            ({"events": "bgp:route"}, [2, 3, 4]),
+            ({"events": "bgp:peer_up,app:*"}, [1, 5]),
+            ({"events": ["app:*", "bgp:peer_?p"]}, [1, 5]),
+            ({"events": "nothing:*"}, []),
+            ({"begin": at(2), "end": at(4)}, [2, 3, 4]),
+            ({"begin": at(5) + 1}, []),
+            ({"begin": "1700000001.000001", "end": str(at(4))}, [2, 3, 4]),
+            ({"end": at(3), "events": ["bgp:*"]}, [1, 2, 3]),
+        ]
+        for keywords, seqs in cases:
+            with self.subTest(**keywords):
+                events = orvane.trace.events(WRITTEN / "good", **keywords)
+                self.assertEqual([e.fields["seq"] for e in events], seqs)
+
+    def test_a_value_it_cannot_read_is_refused_at_once_in_one_line(self):
+        good = WRITTEN / "good"
+        cases = [  # (paths, keywords, error, start of its message)
+            (good, {"begin": "soon"}, ValueError, 'cannot read the time "soon": give'),
+            (good, {"end": 2**63}, ValueError, 'the time "9223372036854775808" is out of range'),
+            (good, {"begin": 5, "end": 4}, ValueError, "the range's begin is after its end"),
+            (good, {"events": "bgp:*,"}, ValueError, "events takes GLOB[,GLOB]: a pattern is"),
+            (good, {"types": ["route=PGO"]}, ValueError, 'types takes "EVENT.FIELD=ID", not'),
+            (good, {"begin": 1.5}, TypeError, "begin takes an int of nanoseconds or a str"),
+            (good, {"events": [b"bgp:*"]}, TypeError, "events takes a str or an iterable"),
+            ([], {}, ValueError, "no trace to read: paths is empty"),
+            (WORK / "nowhere", {}, ValueError, "no CTF trace (a directory with a metadata"),
+        ]
+        for paths, keywords, error, message in cases:
+            with self.subTest(paths=paths, **keywords):
+                with self.assertRaises(error) as caught:
+                    orvane.trace.events(paths, **keywords)  # no event asked for yet
+                self.assertTrue(str(caught.exception).startswith(message), caught.exception)
+                self.assertNotIn("\n", str(caught.exception))
+
+    def test_lost_events_are_counted_where_they_were_lost_and_warned_of_once(self):
+        warning = ('7 events discarded between timestamp_ns 1700000002000001000 and '
+                   '1700000003000002000 in stream 0 of trace "router1"')
+        cases = [  # (trace, (discarded events, packets) by the time each seq comes, warning)
+            ("good", [(0, 0)] * 5, []),
+            ("discarded", [(0, 0)] * 2 + [(7, 1)] * 3, [warning]),
+        ]
+        for trace, counts, warned in cases:
+            with self.subTest(trace=trace), warnings.catch_warnings(record=True) as caught:
+                warnings.simplefilter("always")
+                events = orvane.trace.events(WRITTEN / trace)
+                seen = [(events.discarded_events, events.discarded_packets) for _ in events]
+                self.assertEqual(seen, counts)
+                self.assertEqual(events.discarded_by_trace, {"router1": (7, 1)} if warned else {})
+                lost = [w for w in caught if w.category is DiscardedEventsWarning]
+                self.assertEqual([str(w.message) for w in lost], warned)
+                # The warning points at the loop that reads, not into orvane.
+                self.assertEqual({w.filename for w in lost}, {__file__} if warned else set())
+
+    def test_each_event_carries_its_trace(self):
+        cases = [  # (paths, events per trace, discarded per trace)
+            (WORK / "pair", {"router1/good": 5, "router1/discarded": 5},
+             {"router1/discarded": (7, 1)}),
+            ([WRITTEN / "good", str(WRITTEN / "discarded")], {"router1": 10}, {"router1": (7, 1)}),
+        ]
+        for paths, per_trace, discarded in cases:
+            with self.subTest(paths=paths), warnings.catch_warnings():
+                warnings.simplefilter("ignore", DiscardedEventsWarning)
+                events = orvane.trace.events(paths)
+                read = list(events)
+                self.assertEqual(collections.Counter(e.trace for e in read), per_trace)
+                self.assertEqual(events.discarded_by_trace, discarded)
+                stamps = [e.timestamp_ns for e in read]
+                self.assertEqual(stamps, sorted(stamps))  # merged in time order
+
+    def test_damage_comes_after_the_events_read_before_it(self):
+        corrupt, cut = WRITTEN / "corrupt", WORK / "damaged" / "cut"
+        cases = [  # (paths, seqs read, the start of the one problem)
+            (corrupt, SEQS, f"cannot read {corrupt / 'stream_0'} to its end"),
+            ([WRITTEN / "good", WORK / "damaged"], SEQS, f"cannot read the trace {cut} to its end"),
+            (cut, [], f"cannot read the trace {cut} to its end"),
+        ]
+        for paths, seqs, problem in cases:
+            read = []
+            with self.subTest(paths=paths):
+                with self.assertRaises(TraceReadError) as caught:
+                    for event in orvane.trace.events(paths):
+                        read.append(event.fields["seq"])
+                self.assertEqual(read, seqs)
+                error = caught.exception
+                self.assertEqual(len(error.problems), 1, error.problems)
+                self.assertTrue(error.problems[0].startswith(problem), error.problems[0])
+                self.assertEqual((str(error), isinstance(error, ValueError)),
+                                 (error.problems[0], True))
+                sent = pickle.loads(pickle.dumps(error))  # as Dask sends it between processes
+                self.assertEqual((type(sent), sent.problems), (TraceReadError, error.problems))
 
 
 class Fleet(unittest.TestCase):
@@ -151,6 +251,28 @@ class Fleet(unittest.TestCase):
         first = bag.take(1)[0]
         self.assertEqual((first["trace"], sorted(first)),
                          (str(paths[0]), ["event", "fields", "timestamp_ns", "trace"]))
+
+    def test_discarded_says_which_trace_lost_events_from_the_same_reading(self):
+        paths = [WRITTEN / "good", WRITTEN / "discarded"]
+        keywords = {"events": "bgp:route", "types": ["bgp:route.raw=PGO"]}
+        read, reading = [], orvane.dask._read_trace
+        def counted(path, *arguments):  # a plain function: Dask takes a Mock for a collection
+            read.append(path)
+            return reading(path, *arguments)
+        with mock.patch.object(orvane.dask, "_read_trace", counted), \
+                dask.config.set(scheduler="sync"):
+            raws, lost = dask.compute(orvane.dask.events(paths, **keywords).pluck("fields")
+                                      .pluck("raw").frequencies(),
+                                      orvane.dask.discarded(paths, **keywords))
+        self.assertEqual(sorted(read), sorted(map(str, paths)))  # each read once for both
+        self.assertEqual(dict(raws)["10.1.16.0/20"], 2)  # the keywords reached the reader
+        self.assertEqual(lost, [{"trace": str(paths[0]), "events": 0, "packets": 0},
+                                {"trace": str(paths[1]), "events": 7, "packets": 1}])
+
+    def test_the_report_names_the_routers_that_lost_events(self):
+        report = fleet_report.main([str(WORK / "pair"), "--field", "seq", "--scheduler", "sync"])
+        self.assertIn("discarded\n  lost by the tracer: 7 events, 1 packet\n  app:message:", report)
+        self.assertEqual(report.count("lost by the tracer"), 1)
 
     def test_without_dask_the_error_names_the_packages(self):
         code = "import sys; sys.modules['dask'] = None; import orvane.trace, orvane.dask"
