@@ -2,7 +2,8 @@
 
 #include "python/Plugins.h"
 #include "python/PyText.h"
-#include "tracing/Escape.h"
+#include "decoding/Escape.h"
+#include "tracing/DiscardedRecord.h"
 
 #include <utility>
 
@@ -19,45 +20,11 @@ py::bytes toBytes(std::span<const unsigned char> bytes) {
   return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-/// What a discarded-events or discarded-packets record says.
-struct DiscardedRecord {
-  const bt_stream* stream = nullptr;
-  bool hasCount = false;
-  std::uint64_t count = 0;
-  const bt_clock_snapshot* begin = nullptr; ///< null when the stream's records have no times
-  const bt_clock_snapshot* end = nullptr;
-};
-
-DiscardedRecord discardedEventsOf(const bt_message* message) {
-  DiscardedRecord d;
-  d.stream = bt_message_discarded_events_borrow_stream_const(message);
-  d.hasCount = bt_message_discarded_events_get_count(message, &d.count) ==
-               BT_PROPERTY_AVAILABILITY_AVAILABLE;
-  if (bt_stream_class_discarded_events_have_default_clock_snapshots(
-          bt_stream_borrow_class_const(d.stream))) {
-    d.begin = bt_message_discarded_events_borrow_beginning_default_clock_snapshot_const(message);
-    d.end = bt_message_discarded_events_borrow_end_default_clock_snapshot_const(message);
-  }
-  return d;
-}
-
-DiscardedRecord discardedPacketsOf(const bt_message* message) {
-  DiscardedRecord d;
-  d.stream = bt_message_discarded_packets_borrow_stream_const(message);
-  d.hasCount = bt_message_discarded_packets_get_count(message, &d.count) ==
-               BT_PROPERTY_AVAILABILITY_AVAILABLE;
-  if (bt_stream_class_discarded_packets_have_default_clock_snapshots(
-          bt_stream_borrow_class_const(d.stream))) {
-    d.begin = bt_message_discarded_packets_borrow_beginning_default_clock_snapshot_const(message);
-    d.end = bt_message_discarded_packets_borrow_end_default_clock_snapshot_const(message);
-  }
-  return d;
-}
-
 /// The line the text sink's warning says, with times as nanoseconds from the clock's
 /// origin, the unit of Event.timestamp_ns: "7 events discarded between timestamp_ns A
 /// and B in stream 0 of trace "router1"".
-std::string discardedMessage(const DiscardedRecord& d, bool packets, std::string_view trace) {
+std::string discardedMessage(const tracing::DiscardedRecord& d, std::string_view trace) {
+  const bool packets = d.packets;
   const char* what = packets ? (d.hasCount && d.count == 1 ? "packet" : "packets")
                              : (d.hasCount && d.count == 1 ? "event" : "events");
   std::string line = (d.hasCount ? std::to_string(d.count) : "some") + " " + what + " discarded";
@@ -65,7 +32,7 @@ std::string discardedMessage(const DiscardedRecord& d, bool packets, std::string
   if (tracing::nsFromOrigin(d.begin, beginNs) && tracing::nsFromOrigin(d.end, endNs))
     line += " between timestamp_ns " + std::to_string(beginNs) + " and " + std::to_string(endNs);
   line += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
-  tracing::appendEscapedText(line, trace);
+  decoding::appendEscapedText(line, trace);
   return line + "\"";
 }
 
@@ -130,8 +97,8 @@ void EventTuples::consume(const bt_message* message) {
   try { // nothing may unwind through libbabeltrace2's C frames
     switch (bt_message_get_type(message)) {
     case BT_MESSAGE_TYPE_EVENT: consumeEvent(message); break;
-    case BT_MESSAGE_TYPE_DISCARDED_EVENTS: consumeDiscarded(message, false); break;
-    case BT_MESSAGE_TYPE_DISCARDED_PACKETS: consumeDiscarded(message, true); break;
+    case BT_MESSAGE_TYPE_DISCARDED_EVENTS:
+    case BT_MESSAGE_TYPE_DISCARDED_PACKETS: consumeDiscarded(message); break;
     default: break;
     }
   } catch (...) {
@@ -147,13 +114,13 @@ void EventTuples::consumeEvent(const bt_message* message) {
   walker_.walk(event, info, *this);
 }
 
-void EventTuples::consumeDiscarded(const bt_message* message, bool packets) {
-  const DiscardedRecord record = packets ? discardedPacketsOf(message) : discardedEventsOf(message);
+void EventTuples::consumeDiscarded(const bt_message* message) {
+  const tracing::DiscardedRecord record = tracing::discardedRecordOf(message);
   followTrace(record.stream);
   DiscardedCounts& counts = discarded_[traceName_];
-  (packets ? counts.packets : counts.events) += record.hasCount ? record.count : 0;
+  (record.packets ? counts.packets : counts.events) += record.hasCount ? record.count : 0;
   py::tuple discarded = py::make_tuple(trace_, counts.events, counts.packets,
-                                       toStr(discardedMessage(record, packets, traceName_)));
+                                       toStr(discardedMessage(record, traceName_)));
   ended_.push_back(py::make_tuple(std::exchange(batch_, py::list()), std::move(discarded)));
 }
 

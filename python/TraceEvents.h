@@ -59,7 +59,7 @@ public:
 
 private:
   void consumeEvent(const bt_message* message);
-  void consumeDiscarded(const bt_message* message, bool packets);
+  void consumeDiscarded(const bt_message* message);
   /// Makes traceName_ and trace_ the name of `stream`'s trace, looked up again only when
   /// the trace changes.
   void followTrace(const bt_stream* stream);

@@ -1,5 +1,6 @@
 #include "tracing/MessageFilter.h"
 
+#include "tracing/DiscardedRecord.h"
 #include "tracing/EventWalker.h"
 
 #include <fnmatch.h>
@@ -23,23 +24,10 @@ bool MessageFilter::keeps(const bt_message* message) {
     const bt_clock_snapshot* at = bt_message_event_borrow_default_clock_snapshot_const(message);
     return touchesRange(at, at);
   }
-  case BT_MESSAGE_TYPE_DISCARDED_EVENTS: {
-    const bt_stream* stream = bt_message_discarded_events_borrow_stream_const(message);
-    if (!bt_stream_class_discarded_events_have_default_clock_snapshots(
-            bt_stream_borrow_class_const(stream)))
-      return true;
-    return touchesRange(
-        bt_message_discarded_events_borrow_beginning_default_clock_snapshot_const(message),
-        bt_message_discarded_events_borrow_end_default_clock_snapshot_const(message));
-  }
+  case BT_MESSAGE_TYPE_DISCARDED_EVENTS:
   case BT_MESSAGE_TYPE_DISCARDED_PACKETS: {
-    const bt_stream* stream = bt_message_discarded_packets_borrow_stream_const(message);
-    if (!bt_stream_class_discarded_packets_have_default_clock_snapshots(
-            bt_stream_borrow_class_const(stream)))
-      return true;
-    return touchesRange(
-        bt_message_discarded_packets_borrow_beginning_default_clock_snapshot_const(message),
-        bt_message_discarded_packets_borrow_end_default_clock_snapshot_const(message));
+    const DiscardedRecord record = discardedRecordOf(message);
+    return !record.begin || touchesRange(record.begin, record.end);
   }
   default: return true;
   }

@@ -1,48 +1,10 @@
 #include "tracing/MessagePrinter.h"
 
 #include "decoding/Escape.h"
+#include "tracing/DiscardedRecord.h"
 #include "tracing/Numbers.h"
 
 namespace Orvane::tracing {
-namespace {
-
-/// What a discarded-events or discarded-packets message says.
-struct Discarded {
-  const bt_stream* stream = nullptr;
-  bool hasCount = false;
-  std::uint64_t count = 0;
-  const bt_clock_snapshot* begin = nullptr;
-  const bt_clock_snapshot* end = nullptr;
-};
-
-Discarded discardedEventsOf(const bt_message* message) {
-  Discarded d;
-  d.stream = bt_message_discarded_events_borrow_stream_const(message);
-  d.hasCount = bt_message_discarded_events_get_count(message, &d.count) ==
-               BT_PROPERTY_AVAILABILITY_AVAILABLE;
-  if (bt_stream_class_discarded_events_have_default_clock_snapshots(
-          bt_stream_borrow_class_const(d.stream))) {
-    d.begin = bt_message_discarded_events_borrow_beginning_default_clock_snapshot_const(message);
-    d.end = bt_message_discarded_events_borrow_end_default_clock_snapshot_const(message);
-  }
-  return d;
-}
-
-Discarded discardedPacketsOf(const bt_message* message) {
-  Discarded d;
-  d.stream = bt_message_discarded_packets_borrow_stream_const(message);
-  d.hasCount = bt_message_discarded_packets_get_count(message, &d.count) ==
-               BT_PROPERTY_AVAILABILITY_AVAILABLE;
-  if (bt_stream_class_discarded_packets_have_default_clock_snapshots(
-          bt_stream_borrow_class_const(d.stream))) {
-    d.begin = bt_message_discarded_packets_borrow_beginning_default_clock_snapshot_const(message);
-    d.end = bt_message_discarded_packets_borrow_end_default_clock_snapshot_const(message);
-  }
-  return d;
-}
-
-} // namespace
-
 MessagePrinter::MessagePrinter(OutputOptions options, TypeMap types)
     : json_(options.json), clock_(options.clock), walker_(std::move(types)),
       text_(out_, options.clock), jsonLayout_(out_) {
@@ -52,8 +14,8 @@ MessagePrinter::MessagePrinter(OutputOptions options, TypeMap types)
 void MessagePrinter::print(const bt_message* message) {
   switch (bt_message_get_type(message)) {
   case BT_MESSAGE_TYPE_EVENT: printEvent(message); break;
-  case BT_MESSAGE_TYPE_DISCARDED_EVENTS: printDiscarded(message, false); break;
-  case BT_MESSAGE_TYPE_DISCARDED_PACKETS: printDiscarded(message, true); break;
+  case BT_MESSAGE_TYPE_DISCARDED_EVENTS:
+  case BT_MESSAGE_TYPE_DISCARDED_PACKETS: printDiscarded(message); break;
   default: break;
   }
 }
@@ -94,8 +56,9 @@ void MessagePrinter::appendBoundary(const bt_clock_snapshot* snapshot) {
   }
 }
 
-void MessagePrinter::printDiscarded(const bt_message* message, bool packets) {
-  const Discarded d = packets ? discardedPacketsOf(message) : discardedEventsOf(message);
+void MessagePrinter::printDiscarded(const bt_message* message) {
+  const DiscardedRecord d = discardedRecordOf(message);
+  const bool packets = d.packets;
   (packets ? discardedPackets_ : discardedEvents_) += d.hasCount ? d.count : 0;
   const char* what = packets ? "packets" : "events";
   const char* one = packets ? "packet" : "event";

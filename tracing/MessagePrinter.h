@@ -33,7 +33,7 @@ public:
 
 private:
   void printEvent(const bt_message* message);
-  void printDiscarded(const bt_message* message, bool packets);
+  void printDiscarded(const bt_message* message);
   void appendBoundary(const bt_clock_snapshot* snapshot);
   /// The name of `stream`'s trace, looked up again only when the trace changes.
   std::string_view traceOf(const bt_stream* stream);

@@ -10,7 +10,7 @@
 namespace Orvane::tracing {
 
 /// Appends each event's line to a string. Strings are quoted, typed values are not;
-/// control characters in either are escaped (tracing/Escape.h). An invalid typed field
+/// control characters in either are escaped (decoding/Escape.h). An invalid typed field
 /// prints "<invalid: REASON [HEX BYTES]>".
 class TextLayout final : public NestedLayout {
 public:

@@ -2,73 +2,50 @@
 
 #include "tracing/TraceRequest.h"
 
-#include <babeltrace2/babeltrace.h>
-
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <map>
-#include <memory>
+#include <regex>
 
 namespace Orvane::tracing {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct PutValue {
-  void operator()(const bt_value* value) const { bt_value_put_ref(value); }
-};
-using Value = std::unique_ptr<const bt_value, PutValue>;
-
-/// What babeltrace2's CTF reader says of a directory: whether it is a trace, and the
-/// group (its UUID) of the traces that are copies of one another.
-struct Claim {
-  bool trace = false;
-  std::string group;
-};
-
-/// Asks source.ctf.fs, as babeltrace2's command line does, whether `dir` is a trace.
-class CtfReader {
-public:
-  CtfReader() {
-    if (bt_plugin_find("ctf", BT_TRUE, BT_TRUE, BT_TRUE, BT_TRUE, BT_FALSE, &plugin_) ==
-        BT_PLUGIN_FIND_STATUS_OK)
-      fs_ = bt_plugin_borrow_source_component_class_by_name_const(plugin_, "fs");
+/// The hex form of a 16-byte UUID, "8cae024d-4323-557c-aeca-7e0e1829c4e7".
+std::string uuidText(const unsigned char* bytes) {
+  static constexpr char kDigits[] = "0123456789abcdef";
+  std::string text;
+  for (int i = 0; i < 16; ++i) {
+    if (i == 4 || i == 6 || i == 8 || i == 10) text += '-';
+    text += kDigits[bytes[i] >> 4];
+    text += kDigits[bytes[i] & 0xf];
   }
-  ~CtfReader() { bt_plugin_put_ref(plugin_); }
-  CtfReader(const CtfReader&) = delete;
-  CtfReader& operator=(const CtfReader&) = delete;
+  return text;
+}
 
-  Claim claim(const std::string& dir) const {
-    std::error_code ec;
-    if (!fs::is_regular_file(fs::path(dir) / "metadata", ec)) return {};
-    if (!fs_) return {true, {}}; // the source will say what is missing
-    Value params(bt_value_map_create());
-    bt_value* map = const_cast<bt_value*>(params.get());
-    bt_value_map_insert_string_entry(map, "input", dir.c_str());
-    bt_value_map_insert_string_entry(map, "type", "directory");
-    bt_query_executor* query = bt_query_executor_create(
-        bt_component_class_source_as_component_class_const(fs_), "babeltrace.support-info", map);
-    const bt_value* result = nullptr;
-    Claim claim{true, {}};
-    if (query && bt_query_executor_query(query, &result) == BT_QUERY_EXECUTOR_QUERY_STATUS_OK) {
-      const bt_value* group = bt_value_map_borrow_entry_value_const(result, "group");
-      if (group && bt_value_is_string(group)) claim.group = bt_value_string_get(group);
-    }
-    bt_current_thread_clear_error(); // a metadata file it cannot read: the source says why
-    bt_value_put_ref(result);
-    bt_query_executor_put_ref(query);
-    return claim;
-  }
-
-private:
-  const bt_plugin* plugin_ = nullptr;
-  const bt_component_class_source* fs_ = nullptr;
-};
+/// The UUID of the trace whose metadata file is `metadata`: from the header of its first
+/// packet when it is packetized, else the `uuid` of its text's trace block. Empty when
+/// it names none. Traces of one UUID are copies of one trace, as babeltrace2 groups them.
+std::string traceUuid(const fs::path& metadata) {
+  std::ifstream in(metadata, std::ios::binary);
+  std::string text((std::istreambuf_iterator<char>(in)), {});
+  constexpr std::uint32_t kPacketMagic = 0x75d11d57;
+  std::uint32_t magic = 0;
+  if (text.size() >= 20) std::memcpy(&magic, text.data(), sizeof magic);
+  if (magic == kPacketMagic || magic == __builtin_bswap32(kPacketMagic))
+    return uuidText(reinterpret_cast<const unsigned char*>(text.data()) + 4);
+  static const std::regex kTraceUuid(R"re(trace\s*\{[^}]*?uuid\s*=\s*"([0-9A-Fa-f-]{36})")re");
+  std::smatch found;
+  return std::regex_search(text, found, kTraceUuid) ? found[1].str() : "";
+}
 
 /// A trace directory found, with the input that led to it.
 struct Found {
-  std::string dir, group;
-  std::string below; ///< its path below that input
+  std::string dir, group; ///< the group: the trace's UUID
+  std::string below;      ///< its path below that input
 };
 
 class Search {
@@ -108,11 +85,11 @@ public:
 
 private:
   void walk(const std::string& dir, const std::string& below) {
-    if (const Claim claim = reader_.claim(dir); claim.trace) {
-      found_.push_back({dir, claim.group, below});
+    std::error_code ec;
+    if (const fs::path metadata = fs::path(dir) / "metadata"; fs::is_regular_file(metadata, ec)) {
+      found_.push_back({dir, traceUuid(metadata), below});
       return;
     }
-    std::error_code ec;
     std::vector<fs::path> children;
     // A link to a directory is not followed: it may lead back up (/proc/self/root).
     for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec))
@@ -128,7 +105,6 @@ private:
     }
   }
 
-  CtfReader reader_;
   std::vector<Found> found_;
 };
 

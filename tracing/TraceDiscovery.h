@@ -24,10 +24,11 @@ struct Discovery {
   std::vector<std::string> problems; ///< inputs and directories that could not be read
 };
 
-/// Finds the traces under each input: an LTTng live URL is a source of its own; a
-/// directory that babeltrace2's CTF reader claims is a trace; any other directory is
-/// searched below, in name order. Directories of one UUID become one source. A
-/// directory that cannot be read is a problem, and the search goes on.
+/// Finds the traces under each input, as babeltrace2's command line does: an LTTng live
+/// URL is a source of its own; a directory with a "metadata" file is a trace; any other
+/// directory is searched below, in name order (a link to a directory is not followed).
+/// Directories of one UUID become one source. An input or a directory that cannot be
+/// read is a problem, and the search goes on.
 Discovery discoverTraces(const std::vector<std::string>& inputs);
 
 } // namespace Orvane::tracing

@@ -150,7 +150,8 @@ class TraceReaderTest(unittest.TestCase):
         self.assertEqual(len(result.stdout.splitlines()), len(make_trace.VALUES))
         self.assertIn(b"No event class with ID", result.stderr)
         ours = ovfmt("--trace", str(WORK / "corrupt"))
-        self.assertIn(b"ovfmt: cannot read the trace to its end", ours.stderr)
+        self.assertIn(b"ovfmt: cannot read " + bytes(WORK / "corrupt" / "stream_0") +
+                      b" to its end: No event class with ID", ours.stderr)
 
     def test_the_types_parameter_types_fields_whose_names_carry_no_id(self):
         result = babeltrace(WORK / "good", params='format="json",types=["bgp:route.raw=PGO","*.peer=BPK"]')
@@ -162,21 +163,16 @@ class TraceReaderTest(unittest.TestCase):
         self.assertEqual(events[0]["payload"]["peer"], "pe1")  # a string, not a byte array
 
     def test_usage_errors(self):
-        cases = [(["--trace", str(WORK / "none")], b"no CTF trace"),
-                 (["--trace"], b"--trace needs one value"),
-                 (["--trace", str(WORK / "good"), "--counts"], b"--trace does not go with --counts"),
-                 (["--trace", str(WORK / "good"), "--plugin", str(WORK / "good")], b"cannot load plug-in")]
-        for args, message in cases:
-            with self.subTest(args=args):
-                result = ovfmt(*args)
-                self.assertEqual(result.returncode, 2)
-                self.assertIn(message, result.stderr)
-        shown = ovfmt("--trace", "--help")
-        self.assertEqual((shown.returncode, shown.stdout.split(b"\n")[0]),
-                         (0, b"Usage: ovfmt [--plugin PATH]... --trace DIR [--json] [--begin T] [--end T]"))
-        bad = babeltrace(WORK / "good", params='format="xml"')
-        self.assertNotEqual(bad.returncode, 0)
-        self.assertIn(b'parameter format must be "text" or "json"', bad.stderr)
+        # ovfmt's own usage errors are pinned by the C++ tests; here, what needs a plug-in
+        # load or babeltrace2's command line.
+        result = ovfmt("--trace", str(WORK / "good"), "--plugin", str(WORK / "good"))
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(b"cannot load plug-in", result.stderr)
+        for params, message in [('format="xml"', b'format is "text" or "json", not "xml"'),
+                                ('fromat="json"', b'unknown parameter "fromat"')]:
+            bad = babeltrace(WORK / "good", params=params)
+            self.assertNotEqual(bad.returncode, 0)
+            self.assertIn(message, bad.stderr)
 
 
 if __name__ == "__main__":
