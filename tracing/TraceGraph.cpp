@@ -6,6 +6,7 @@
 #include <babeltrace2/babeltrace.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <memory>
 #include <thread>
 
@@ -56,14 +57,25 @@ std::string readable(std::string_view message) {
   return line;
 }
 
+constexpr std::string_view kSourcePrefix = "source-";
+
 /// The data stream file a message iterator's port reads ("UUID | ID | PATH"), or "".
 std::string streamFileOf(const bt_error_cause* cause) {
   if (bt_error_cause_get_actor_type(cause) != BT_ERROR_CAUSE_ACTOR_TYPE_MESSAGE_ITERATOR)
     return "";
-  const std::string_view port = 
+  const std::string_view port =
       bt_error_cause_message_iterator_actor_get_component_output_port_name(cause);
   const std::size_t bar = port.rfind(" | ");
   return bar == std::string_view::npos ? "" : std::string(port.substr(bar + 3));
+}
+
+/// The trace of the source ("source-N") a component's cause comes from, or "".
+std::string traceOf(const bt_error_cause* cause, const std::vector<TraceSource>& sources) {
+  if (bt_error_cause_get_actor_type(cause) != BT_ERROR_CAUSE_ACTOR_TYPE_COMPONENT) return "";
+  const std::string_view component = bt_error_cause_component_actor_get_component_name(cause);
+  if (!component.starts_with(kSourcePrefix)) return "";
+  const std::size_t index = std::strtoul(component.data() + kSourcePrefix.size(), nullptr, 10);
+  return index < sources.size() ? "the trace " + sources[index].inputs.front() : "";
 }
 
 } // namespace
@@ -71,17 +83,18 @@ std::string streamFileOf(const bt_error_cause* cause) {
 void TraceGraph::report(const std::string& what) {
   damaged_ = true;
   const bt_error* error = bt_current_thread_take_error();
-  std::string file, reason;
+  std::string file, trace, reason;
   for (std::uint64_t i = 0; error && i < bt_error_get_cause_count(error); ++i) {
     const bt_error_cause* cause = bt_error_borrow_cause_by_index(error, i);
     details_.emplace_back(bt_error_cause_get_message(cause));
     // The first cause is the first thing that failed; the first message iterator named
-    // is the stream's.
+    // reads the stream it failed in, else the first source named is its trace.
     if (file.empty()) file = streamFileOf(cause);
+    if (trace.empty()) trace = traceOf(cause, sources_);
     if (reason.empty()) reason = readable(details_.back());
   }
   if (error) bt_error_release(error);
-  const std::string subject = file.empty() ? what : file;
+  const std::string subject = !file.empty() ? file : !trace.empty() ? trace : what;
   problems_.push_back("cannot read " + subject + " to its end" + (reason.empty() ? "" : ": ") +
                       reason);
 }
@@ -121,7 +134,7 @@ const bt_component_source* TraceGraph::addSource(const TraceSource& source, std:
     bt_value_map_insert_string_entry(params.get(), "trace-name", source.name.c_str());
   if (source.live) // a session that does not exist is an error, not a wait
     bt_value_map_insert_string_entry(params.get(), "session-not-found-action", "fail");
-  const std::string name = "source-" + std::to_string(index);
+  const std::string name = std::string(kSourcePrefix) + std::to_string(index);
   const bt_component_source* component = nullptr;
   if (bt_graph_add_source_component(graph_, sourceClass, name.c_str(), params.get(), logLevel_,
                                     &component) != BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
@@ -201,6 +214,7 @@ TraceGraph::TraceGraph(const TraceRequest& request, MessageConsumer& consumer) {
   std::vector<TraceSource> sources = std::move(found.sources);
   while (!sources.empty()) {
     std::size_t failedSource = sources.size();
+    sources_ = sources;
     if (build(sources, request, consumer, failedSource)) return;
     destroy();
     if (failedSource == sources.size()) return; // not a trace's fault: nothing else to try
@@ -222,7 +236,7 @@ TraceGraph::Step TraceGraph::step() {
   if (status == BT_GRAPH_RUN_ONCE_STATUS_OK || status == BT_GRAPH_RUN_ONCE_STATUS_AGAIN) {
     if (const bt_error* lingering = bt_current_thread_take_error()) {
       bt_current_thread_move_error(lingering);
-      report("a stream");
+      report("a trace");
     }
   }
   switch (status) {

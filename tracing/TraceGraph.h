@@ -63,6 +63,7 @@ private:
   void destroy();
 
   std::vector<std::string> problems_, details_;
+  std::vector<TraceSource> sources_; ///< those of the graph, by the index in their names
   std::vector<const bt_plugin*> plugins_; // outlive the graph, whose components use them
   const bt_plugin* ctf_ = nullptr;
   bt_graph* graph_ = nullptr;

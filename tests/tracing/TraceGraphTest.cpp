@@ -195,6 +195,25 @@ TEST_F(TraceGraphTest, ReportsDamageInOneLineAndReadsTheRest) {
             "no CTF trace (a directory with a metadata file) in " + at("tree/broken/..missing"));
 }
 
+// A source that stops a stream part-way leaves an error on the thread and returns OK:
+// the reader reports it and goes on, where libbabeltrace2 would abort at the next call.
+TEST_F(TraceGraphTest, AStreamStoppedPartWayIsReportedNotFatal) {
+  const std::string damage = (fs::path(MAKE_TRACE).parent_path() / "damage.py").string();
+  const std::string copy = at("sequence-past-the-end");
+  fs::remove_all(copy);
+  const std::string command =
+      std::string(PYTHON " ") + damage + " " + at("good") + " " + copy + " abort-last-length";
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  EventConsumer consumer;
+  tracing::TraceGraph graph(request({copy}), consumer);
+  EXPECT_EQ(graph.run(), tracing::TraceGraph::Step::End);
+  EXPECT_EQ(consumer.collected.events.size(), 3u); // as many as babeltrace2 prints
+  EXPECT_TRUE(graph.damaged());
+  EXPECT_EQ(graph.problems(), std::vector<std::string>{"cannot read the trace " + copy +
+                                                       " to its end: Cannot handle state: "
+                                                       "state=DSCOPE_EVENT_PAYLOAD_CONTINUE"});
+}
+
 // The lines printed before the process dies of a signal are written all the same.
 TEST_F(TraceGraphTest, PrintedLinesSurviveAnAbort) {
   const std::string out = at("aborted.txt");
