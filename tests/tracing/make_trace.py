@@ -1,7 +1,7 @@
 """Writes the reader tests' traces under OUTDIR: good (one event of each kind of typed
 value, valid and not, and strings with control characters), discarded (events and
-packets lost between packets) and corrupt (an event of a class the metadata lacks, in
-the middle of the stream). Prints nothing; the tests know the values from VALUES."""
+packets lost between packets), corrupt (an event of a class the metadata lacks, in the
+middle of the stream) and overrun (a sequence longer than its packet). Prints nothing; the tests know the values from VALUES."""
 
 import sys
 from pathlib import Path
@@ -47,6 +47,12 @@ def main(outdir):
     second_packet = len(data) // 2
     at = data.index(ctf_writer.MAGIC.to_bytes(4, "little"), second_packet - 8)
     data[at + 24 + 52] = 0xEE
+    stream.write_bytes(bytes(data))
+    # The last sequence's length runs past the packet's content: the source stops the
+    # stream there and leaves an error on the thread, yet says all went well.
+    stream = ctf_writer.write_trace(outdir / "overrun", [(events(VALUES, 1), 0, 0)])
+    data = bytearray(stream.read_bytes())
+    data[data.index(PGO + b"\xff") - 4] ^= 0xFF
     stream.write_bytes(bytes(data))
 
 
