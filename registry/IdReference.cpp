@@ -150,9 +150,12 @@ void describeCodes(const CodeTable& codes, std::ostream& os) {
      << (codes.bits ? "| Code | Bits | Holds | Prints |\n|---|---|---|---|\n"
                     : "| Code | Prints |\n|---|---|\n");
   for (const CodeCase& known : codes.cases) {
-    const std::string prints =
-        codes.printsLiteral ? "`" + std::string(known.prints) + "`" : std::string(known.prints);
-    writeCodeCase(std::to_string(known.code), known.parts, prints, codes.bits, os);
+    std::ostringstream prints;
+    if (codes.printsLiteral)
+      prints << '`' << known.prints << '`';
+    else
+      prints << known.prints;
+    writeCodeCase(std::to_string(known.code), known.parts, prints.str(), codes.bits, os);
   }
   writeCodeCase("Any other", {}, codes.otherwise, codes.bits, os);
 }

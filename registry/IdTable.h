@@ -254,8 +254,8 @@ inline constexpr IdEntry kIdTable[] = {
      "9 + the route key of the AFI and SAFI", "01 00 01 01 01 01 00 00 00 00 00 a8 c0 18",
      &kBgpRouteKeyVariants},
     {"BRY", formatBgpRouteKeyNew, lengthBgpRouteKeyNew,
-     "BGP route key with NLRI type and VRF (route keys: docs/route-keys.md)", nullptr,
-     "6 + the route key of the NLRI type's AFI and SAFI",
+     "BGP route key with NLRI type and VRF (route keys: /usr/share/doc/orvane/route-keys.md)",
+     nullptr, "6 + the route key of the NLRI type's AFI and SAFI",
      "04 00 0a 00 00 00 6d 64 00 00 00 e8 fd 00 00 00 00 00 00 00 00 00 00 00 1c 73 aa bb cc 01 01 "
      "00 00 0a",
      &kBgpRouteKeyVariants},
