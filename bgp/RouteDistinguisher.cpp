@@ -6,14 +6,10 @@
 #include "registry/HostInterface.h"
 
 #include <cstdint>
+#include <iterator>
 
 namespace Orvane {
 namespace {
-
-// Bits [shift, shift + width) of a 64-bit value.
-uint64_t bits(uint64_t value, unsigned shift, unsigned width) {
-  return (value >> shift) & ((uint64_t{1} << width) - 1);
-}
 
 // A u32 IPv4 address printed as the "I" id prints it, most significant byte first.
 void printIpv4Number(TextRun& text, uint32_t address) {
@@ -53,41 +49,95 @@ constexpr FieldKind kMembershipTargetField{formatMembershipTarget, fixedLength<9
 
 } // namespace
 
+// Each known type's parts are [0] the administrator and [1] the assigned number; the
+// cases are indexed by type.
+constexpr unsigned kRdTwoByteAs = 0, kRdIpv4 = 1;
+constexpr BitField kRdType{48, 16, "type"};
+constexpr BitField kRdTwoByteAsParts[] = {{32, 16, "administrator, a 2-byte AS number"},
+                                          {0, 32, "assigned number, u32"}};
+constexpr BitField kRdIpv4Parts[] = {{16, 32, "administrator, an IPv4 address"},
+                                     {0, 16, "assigned number, u16"}};
+constexpr BitField kRdFourByteAsParts[] = {{16, 32, "administrator, a 4-byte AS number"},
+                                           {0, 16, "assigned number, u16"}};
+constexpr CodeCase kRdTypes[] = {
+    {kRdTwoByteAs,
+     "administrator `:` number, in decimal; a number above 0xFFFFFF as a dotted IPv4 "
+     "address (`0:1`, `0:1.0.0.0`)",
+     kRdTwoByteAsParts},
+    {kRdIpv4, "the address, dotted, `:` number in decimal (`192.0.2.1:7`)", kRdIpv4Parts},
+    {2, "administrator `:` number, in decimal (`70000:100`)", kRdFourByteAsParts}};
+static_assert(indexedByCode(kRdTypes));
+constexpr CodeTable kRdTypeCodes{"type", &kRdType, kRdTypes,
+                                 "`0x` and the whole value in 16 lower-case hex digits, the "
+                                 "stream left in hex with fill `0` (`0x0123456789abcdef`)"};
+constexpr ByteField kRdBytes[] = {
+    {0, 8, "the route distinguisher, one little-endian u64 (its bits below)"}};
+constexpr ValueLayout kRouteDistinguisherLayout{kRdBytes, &kRdTypeCodes};
+
+// As for the RD: [0] the global and [1] the local administrator, indexed by type.
+constexpr unsigned kRtIpv4 = 1, kRtFourByteAs = 2;
+constexpr BitField kRtType{56, 8, "type"};
+constexpr BitField kRtTwoByteAsParts[] = {{32, 16, "global administrator, a 2-byte AS number"},
+                                          {0, 32, "local administrator, u32"}};
+constexpr BitField kRtIpv4Parts[] = {{16, 32, "global administrator, an IPv4 address"},
+                                     {0, 16, "local administrator, u16"}};
+constexpr BitField kRtFourByteAsParts[] = {{16, 32, "global administrator, a 4-byte AS number"},
+                                           {0, 16, "local administrator, u16"}};
+constexpr CodeCase kRtTypes[] = {
+    {0, "global `:` local, in decimal (`65000:100`)", kRtTwoByteAsParts},
+    {kRtIpv4,
+     "the address's four bytes, most significant first, in decimal with `.` between, `:` "
+     "local in decimal (`193.3.5.7:7`)",
+     kRtIpv4Parts},
+    {kRtFourByteAs,
+     "global in decimal, `L` when bits 32-47 are zero, `:` local in decimal (`65000L:100`, "
+     "`70000:100`)",
+     kRtFourByteAsParts}};
+static_assert(indexedByCode(kRtTypes));
+constexpr CodeTable kRtTypeCodes{
+    "type", &kRtType, kRtTypes,
+    "`INVALID:0x` and the whole value in upper-case hex, unpadded (`INVALID:0x323456789ABCDEF`)"};
+constexpr ByteField kRtBytes[] = {{0, 8,
+                                   "the route target, one little-endian u64 (its bits below); "
+                                   "bits 48-55, the subtype, are not read"}};
+constexpr ValueLayout kRouteTargetLayout{kRtBytes, &kRtTypeCodes};
+
 void printRouteDistinguisher(unsigned long long rd, TextRun& text) {
-  switch (bits(rd, 48, 16)) {
-  case 0: {
-    const auto assigned = static_cast<uint32_t>(bits(rd, 0, 32));
-    text.number(bits(rd, 32, 16)).join(":");
-    if (assigned <= 0xFFFFFF)
-      text.number(assigned);
-    else
-      printIpv4Number(text, assigned);
-    break;
+  const uint64_t type = kRdType.of(rd);
+  if (type >= std::size(kRdTypes)) {
+    printUnknownRouteDistinguisher(rd, text.flush());
+    return;
   }
-  case 1:
-    printIpv4Number(text, static_cast<uint32_t>(bits(rd, 16, 32)));
-    text.join(":").number(bits(rd, 0, 16));
-    break;
-  case 2: text.number(bits(rd, 16, 32)).join(":").number(bits(rd, 0, 16)); break;
-  default: printUnknownRouteDistinguisher(rd, text.flush());
-  }
+  const std::span<const BitField> parts = kRdTypes[type].parts;
+  const auto administrator = static_cast<uint32_t>(parts[0].of(rd));
+  const auto number = static_cast<uint32_t>(parts[1].of(rd));
+  if (type == kRdIpv4)
+    printIpv4Number(text, administrator);
+  else
+    text.number(administrator);
+  text.join(":");
+  if (type == kRdTwoByteAs && number > 0xFFFFFF)
+    printIpv4Number(text, number);
+  else
+    text.number(number);
 }
 
 void printRouteTarget(unsigned long long rt, TextRun& text) {
-  switch (bits(rt, 56, 8)) {
-  case 0: text.number(bits(rt, 32, 16)).join(":").number(bits(rt, 0, 32)); break;
-  case 1:
-    text.number(bits(rt, 40, 8)).join(".").number(bits(rt, 32, 8)).join(".");
-    text.number(bits(rt, 24, 8)).join(".").number(bits(rt, 16, 8));
-    text.join(":").number(bits(rt, 0, 16));
-    break;
-  case 2:
-    text.number(bits(rt, 16, 32));
-    if (bits(rt, 32, 16) == 0) text.join("L");
-    text.join(":").number(bits(rt, 0, 16));
-    break;
-  default: printUnknownRouteTarget(rt, text.flush());
+  const uint64_t type = kRtType.of(rt);
+  if (type >= std::size(kRtTypes)) {
+    printUnknownRouteTarget(rt, text.flush());
+    return;
   }
+  const std::span<const BitField> parts = kRtTypes[type].parts;
+  const uint64_t global = parts[0].of(rt);
+  if (type == kRtIpv4) {
+    text.number(global >> 24).join(".").number(global >> 16 & 0xFF).join(".");
+    text.number(global >> 8 & 0xFF).join(".").number(global & 0xFF);
+  } else {
+    text.number(global);
+  }
+  if (type == kRtFourByteAs && global >> 16 == 0) text.join("L");
+  text.join(":").number(parts[1].of(rt));
 }
 
 void formatRouteDistinguisher(unsigned long long rd, std::ostream& os) {

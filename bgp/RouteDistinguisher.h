@@ -9,6 +9,7 @@
 #include "registry/Export.h"
 #include "registry/FieldKind.h"
 #include "registry/TextRun.h"
+#include "registry/ValueLayout.h"
 
 #include <ostream>
 
@@ -40,6 +41,12 @@ ORVANE_API unsigned lengthRouteDistinguisher(const unsigned char* p); ///< 8
 /// "RT": the u64 at `p`, printed as formatRouteTarget. Returns 8.
 ORVANE_API unsigned formatRouteTarget(const unsigned char* p, std::ostream& os);
 ORVANE_API unsigned lengthRouteTarget(const unsigned char* p); ///< 8
+
+/// The layouts of "RD" and "RT" (ValueLayout.h) for the reference: the one u64, the
+/// bits of its type, and the bits each known type gives the administrator and the
+/// assigned (or local) number. The formatters read those parts through these tables.
+ORVANE_API extern const ValueLayout kRouteDistinguisherLayout;
+ORVANE_API extern const ValueLayout kRouteTargetLayout;
 
 /// formatRouteDistinguisher() and formatRouteTarget() by value within a longer text:
 /// the same characters, joined to `text` where separate insertions would print the same.

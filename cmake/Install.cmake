@@ -7,7 +7,12 @@
 #                                             Orvane::KaMessageFormatter, Orvane::ovfmt
 #   LIBDIR/pkgconfig/                         orvane-host.pc and orvane.pc
 #   share/man/man1/ovfmt.1                    generated from ovfmt --help and --version
+#   bin/orvane-trace-record                   scripts/trace-record, which records a traced run
+#   share/orvane/lttng-daemon.bash            the session-daemon helper it sources
 #   share/doc/orvane/                         README.md and every docs/*.md
+#   share/doc/orvane/examples/                the examples the docs use: fleet_report.py,
+#                                             decode_records.py, call_exported.cpp, the
+#                                             value files and the traced program speaker/
 #   ORVANE_INSTALL_PYTHONDIR/orvane/          the Python package (python/), when built
 # Every path inside the installed files is relative to the prefix, so an installed tree
 # still works after it is moved.
@@ -47,8 +52,19 @@ foreach(pc orvane-host orvane)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc}.pc DESTINATION ${ORVANE_PKGCONFIG_DIR})
 endforeach()
 
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/orvane)
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/orvane
-  FILES_MATCHING PATTERN "*.md")
+# The recorder under a name of the project's own on PATH; it finds its helper in
+# share/orvane relative to bin/.
+install(PROGRAMS scripts/trace-record DESTINATION ${CMAKE_INSTALL_BINDIR}
+  RENAME orvane-trace-record)
+install(FILES scripts/lttng-daemon.bash DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/orvane)
+
+set(ORVANE_DOC_DIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/orvane)
+install(FILES README.md DESTINATION ${ORVANE_DOC_DIR})
+install(DIRECTORY docs/ DESTINATION ${ORVANE_DOC_DIR} FILES_MATCHING PATTERN "*.md")
+install(PROGRAMS examples/fleet_report.py examples/decode_records.py
+  DESTINATION ${ORVANE_DOC_DIR}/examples)
+install(FILES examples/call_exported.cpp examples/demo.txt examples/records.txt
+  DESTINATION ${ORVANE_DOC_DIR}/examples)
+install(DIRECTORY examples/speaker DESTINATION ${ORVANE_DOC_DIR}/examples)
 
 include(cmake/ManPage.cmake)

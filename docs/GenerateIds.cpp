@@ -35,11 +35,14 @@ void writeContents(std::ostream& os) {
 
 int main() {
   std::cout << "# Type ids\n\n"
-               "Every id the plug-in supplies: what the value holds, its fields in order with "
-               "their sizes\n(for a key written as one table) or how its size is found, and an "
-               "example with the\ntext it prints. Generated from the plug-in's tables by "
-               "docs/GenerateIds.cpp; do not edit.\n`ovfmt --describe ID` prints one id's "
-               "entry.\n\n";
+               "Every id the plug-in supplies: what the value holds; its bytes, for a key "
+               "written as one\ntable its fields in order with their offsets and sizes, for "
+               "some other values their\nparts and the codes that pick what they print; how "
+               "its size is found; and an example\nwith the text it prints. Offsets and sizes "
+               "are in bytes; numbers are little-endian unless\nsaid otherwise, and bits "
+               "count from the least significant. Generated from the tables the\nformatters "
+               "use by docs/GenerateIds.cpp; do not edit. `ovfmt --describe ID` prints one\n"
+               "id's entry.\n\n";
   writeContents(std::cout);
   unsigned number = 0;
   forEachFamily([&](const IdFamily& family, const IdEntry* first, const IdEntry* last) {

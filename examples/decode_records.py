@@ -4,6 +4,7 @@ module. It prints what
     ovfmt --template 'route {} from peer {} via {}' --batch examples/records.txt
 prints. With the module built by the release preset:
     PYTHONPATH=build/release/lib/python3/dist-packages python3 examples/decode_records.py
+With the package installed: python3 /usr/share/doc/orvane/examples/decode_records.py
 """
 
 import sys

@@ -10,7 +10,8 @@ cluster whose scheduler is at --scheduler ADDRESS, or one process with --schedul
     examples/fleet_report.py TRACES --field prefix --scheduler tcp://10.0.0.5:8786
 
 Run it with the Python that python3-dask belongs to (/usr/bin/python3), with the orvane
-package on PYTHONPATH (the build's lib/python3/dist-packages) or installed.
+package on PYTHONPATH (the build's lib/python3/dist-packages) or installed; the package
+installs this script as /usr/share/doc/orvane/examples/fleet_report.py.
 """
 
 import argparse

@@ -9,22 +9,28 @@
 #include "registry/TextRun.h"
 
 #include <cstdint>
-#include <iterator>
 
 namespace Orvane {
+
+constexpr CodeCase kLabelOperations[] = {
+    {0, "push"}, {1, "pop"}, {2, "swap"}, {3, "forward"}, {255, "unknown"}};
+constexpr CodeTable kLabelOperationCodes{"operation (byte 0)", nullptr, kLabelOperations,
+                                         "prints nothing: the value is invalid", true};
+constexpr ByteField kLabelOperationBytes[] = {
+    {0, 1, "operation (below), printed first"},
+    {1, 1, "count of labels, 0 to 13; above 13 nothing prints and the value is invalid"},
+    {2, 0,
+     "the labels, a u32 each, printed in `[` `]` with `, ` between: 3 as `ImplicitNull`, "
+     "0x100000 as `Null`",
+     "4 per label"}};
+constexpr ValueLayout kMplsLabelOperationLayout{kLabelOperationBytes, &kLabelOperationCodes};
+
 namespace {
 
 constexpr unsigned kImplicitNullLabel = 3;
 constexpr unsigned kNoLabel = 0x100000; // one past the 20-bit label range
 constexpr unsigned kMaxStackLabels = 13;
 constexpr unsigned kSystemIdRouterKind = 3;
-
-// The operation's name, or null for a code that makes the value invalid.
-const char* labelOperationName(unsigned char code) {
-  static constexpr const char* kNames[] = {"push", "pop", "swap", "forward"};
-  if (code < std::size(kNames)) return kNames[code];
-  return code == 255 ? "unknown" : nullptr;
-}
 
 void printEvpnLabelWord(uint32_t word, TextRun& text) {
   const unsigned value = word & 0xFFFFFF;
@@ -44,6 +50,13 @@ void printMplsLabel(unsigned label, TextRun& text) {
     text << "Null";
   else
     text.number(label);
+}
+
+// The case of an operation code, or null for a code that makes the value invalid.
+const CodeCase* labelOperation(unsigned char code) {
+  for (const CodeCase& operation : kLabelOperations)
+    if (operation.code == code) return &operation;
+  return nullptr;
 }
 
 } // namespace
@@ -66,9 +79,9 @@ unsigned lengthMplsLabel(const unsigned char*) { return 4; }
 unsigned appendMplsLabelOperation(const unsigned char* p, TextRun& text) {
   const unsigned count = p[1];
   if (count > kMaxStackLabels) return kInvalidLength;
-  const char* operation = labelOperationName(p[0]);
+  const CodeCase* operation = labelOperation(p[0]);
   if (!operation) return kInvalidLength;
-  text << operation << "[";
+  text << operation->prints << "[";
   for (unsigned i = 0; i < count; ++i)
     printMplsLabel(load<uint32_t>(p + 2 + 4 * i), i ? text << ", " : text);
   text << "]";

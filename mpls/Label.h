@@ -9,6 +9,7 @@
 #include "registry/Export.h"
 #include "registry/FieldKind.h"
 #include "registry/TextRun.h"
+#include "registry/ValueLayout.h"
 
 #include <ostream>
 
@@ -27,6 +28,9 @@ ORVANE_API unsigned lengthMplsLabel(const unsigned char* p); ///< 4
 /// count is checked first); an operation 4..254 prints nothing more and returns
 /// 0xFFFFFFFF. Otherwise returns 2 + 4 * count.
 ORVANE_API unsigned formatMplsLabelOperation(const unsigned char* p, std::ostream& os);
+/// The layout of "LO" (ValueLayout.h) for the reference: its bytes and the operation
+/// codes, whose names the formatter prints from this table.
+ORVANE_API extern const ValueLayout kMplsLabelOperationLayout;
 /// 2 + 4 * count, or 0xFFFFFFFF for a count above 13. Looks at the count byte only, so
 /// for an operation 4..254 it differs from what formatting reports.
 ORVANE_API unsigned lengthMplsLabelOperation(const unsigned char* p);

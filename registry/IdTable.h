@@ -37,6 +37,7 @@
 #include "mpls/TunnelKeys.h"
 #include "packet/Packet.h"
 #include "registry/Formatter.h"
+#include "registry/ValueLayout.h"
 
 #include <iterator>
 #include <string_view>
@@ -62,6 +63,9 @@ struct IdEntry {
   /// For a composite whose body depends on a code: its variants' bodies (FieldKind.h),
   /// listed after `size`.
   const FieldVariants* variants = nullptr;
+  /// For a value not written as a table: its bytes and the codes that pick what it
+  /// prints (ValueLayout.h), listed before `size`.
+  const ValueLayout* layout = nullptr;
 };
 
 /// Every id, one block per family (kIdFamilies) and sorted by id within it. The order
@@ -137,7 +141,7 @@ inline constexpr IdEntry kIdTable[] = {
      "2a 00 00 00 00 00 00 00 00 00"},
     {"LO", formatMplsLabelOperation, lengthMplsLabelOperation, "label operation and stack", nullptr,
      "2 + 4 per label of the count byte; invalid for a count above 13",
-     "02 02 03 00 00 00 10 00 00 00"},
+     "02 02 03 00 00 00 10 00 00 00", nullptr, &kMplsLabelOperationLayout},
     {"LVK", formatLfibViaKey, lengthLfibViaKey, "LFIB via key", &kLfibViaKeyFields, "",
      "01 41 5d 00 00 00"},
     {"ML", static_cast<FormatPtr>(formatMplsLabel), lengthMplsLabel, "MPLS label (u32)", nullptr,
@@ -149,9 +153,10 @@ inline constexpr IdEntry kIdTable[] = {
     {"NLRI2AFISAFI", formatNlriType2AfiSafi, lengthNlriType2AfiSafi,
      "NLRI type and the pair it implies", nullptr, "1", "04"},
     {"RD", static_cast<FormatPtr>(formatRouteDistinguisher), lengthRouteDistinguisher,
-     "route distinguisher (u64)", nullptr, "8", "64 00 01 00 00 0a 01 00"},
+     "route distinguisher (u64)", nullptr, "8", "64 00 01 00 00 0a 01 00", nullptr,
+     &kRouteDistinguisherLayout},
     {"RT", static_cast<FormatPtr>(formatRouteTarget), lengthRouteTarget, "route target (u64)",
-     nullptr, "8", "64 00 00 00 e8 fd 02 00"},
+     nullptr, "8", "64 00 00 00 e8 fd 02 00", nullptr, &kRouteTargetLayout},
     {"RTMRK", formatRtMembershipRouteKey, lengthRtMembershipRouteKey, "RT membership route key",
      &kRtMembershipRouteKeyFields, "", "e8 fd 00 00 64 00 00 00 e8 fd 02 00 60"},
     {"SAFI", formatSafiLegacy, lengthSafi, "BGP SAFI (one byte)", nullptr, "1", "46"},
@@ -249,8 +254,8 @@ inline constexpr IdEntry kIdTable[] = {
      "9 + the route key of the AFI and SAFI", "01 00 01 01 01 01 00 00 00 00 00 a8 c0 18",
      &kBgpRouteKeyVariants},
     {"BRY", formatBgpRouteKeyNew, lengthBgpRouteKeyNew,
-     "BGP route key with NLRI type and VRF (route keys: docs/route-keys.md)", nullptr,
-     "6 + the route key of the NLRI type's AFI and SAFI",
+     "BGP route key with NLRI type and VRF (route keys: /usr/share/doc/orvane/route-keys.md)",
+     nullptr, "6 + the route key of the NLRI type's AFI and SAFI",
      "04 00 0a 00 00 00 6d 64 00 00 00 e8 fd 00 00 00 00 00 00 00 00 00 00 00 1c 73 aa bb cc 01 01 "
      "00 00 0a",
      &kBgpRouteKeyVariants},

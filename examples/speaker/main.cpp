@@ -1,5 +1,6 @@
 // bgp_speaker: a simulated BGP speaker that traces its peers, routes, next hops, labels
-// and packets as typed values through LTTng-UST. Record it with scripts/trace-record.
+// and packets as typed values through LTTng-UST. Record it with orvane-trace-record
+// (scripts/trace-record in the source tree).
 #include "speaker/Speaker.h"
 
 #include <charconv>
