@@ -1,8 +1,8 @@
 """The events of CTF traces, their typed fields decoded by the Orvane formatters.
 
 A typed field is an array or sequence of unsigned 8-bit integers named NAME__ID, ID a
-registered type id (docs/traces.md): it appears under NAME as the text the id's
-formatter prints, exactly as ovfmt and the babeltrace2 sink print it. Integers appear as
+registered type id (/usr/share/doc/orvane/traces.md): it appears under NAME as the text
+the id's formatter prints, exactly as ovfmt and the babeltrace2 sink print it. Integers appear as
 int, strings as str. Reading and decoding run in C++ (libbabeltrace2 and the plug-in),
 a batch of events at a time, so Python sees finished values only. The traces, the time
 range and the events kept are read as the sink's parameters of the same names are.
