@@ -1,10 +1,12 @@
 #include "tracing/TraceGraph.h"
 
 #include "tracing/PrintingConsumer.h"
+#include "tracing/ErrorGuard.h"
 #include "tracing/Sink.h"
 
 #include <babeltrace2/babeltrace.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <memory>
@@ -81,8 +83,13 @@ std::string traceOf(const bt_error_cause* cause, const std::vector<TraceSource>&
 } // namespace
 
 void TraceGraph::report(const std::string& what) {
-  damaged_ = true;
   const bt_error* error = bt_current_thread_take_error();
+  report(what, error);
+  if (error) bt_error_release(error);
+}
+
+void TraceGraph::report(const std::string& what, const bt_error* error) {
+  damaged_ = true;
   std::string file, trace, reason;
   for (std::uint64_t i = 0; error && i < bt_error_get_cause_count(error); ++i) {
     const bt_error_cause* cause = bt_error_borrow_cause_by_index(error, i);
@@ -93,10 +100,12 @@ void TraceGraph::report(const std::string& what) {
     if (trace.empty()) trace = traceOf(cause, sources_);
     if (reason.empty()) reason = readable(details_.back());
   }
-  if (error) bt_error_release(error);
   const std::string subject = !file.empty() ? file : !trace.empty() ? trace : what;
-  problems_.push_back("cannot read " + subject + " to its end" + (reason.empty() ? "" : ": ") +
-                      reason);
+  const std::string problem =
+      "cannot read " + subject + " to its end" + (reason.empty() ? "" : ": ") + reason;
+  // A stream stopped part-way may say so at each call that follows: once is enough.
+  if (std::find(problems_.begin(), problems_.end(), problem) == problems_.end())
+    problems_.push_back(problem);
 }
 
 const bt_plugin* TraceGraph::plugin(const char* name) {
@@ -179,15 +188,27 @@ bool TraceGraph::build(const std::vector<TraceSource>& sources, const TraceReque
       failedSource = i;
       return false;
     }
-    for (std::uint64_t p = 0; p < bt_component_source_get_output_port_count(source); ++p) {
-      // The muxer adds a free input port each time one is connected.
-      const std::uint64_t free = bt_component_filter_get_input_port_count(muxer_) - 1;
-      if (!connect(bt_component_source_borrow_output_port_by_index_const(source, p),
-                   bt_component_filter_borrow_input_port_by_index_const(muxer_, free)))
+    for (std::uint64_t p = 0; p < bt_component_source_get_output_port_count(source); ++p)
+      if (!addGuarded(bt_component_source_borrow_output_port_by_index_const(source, p)))
         return false;
-    }
   }
   return addSink(request, consumer);
+}
+
+bool TraceGraph::addGuarded(const bt_port_output* port) {
+  const bt_component_filter* guard = nullptr;
+  const std::string name = "guard-" + std::to_string(guards_++);
+  if (bt_graph_add_filter_component_with_initialize_method_data(
+          graph_, guardClass_.get(), name.c_str(), nullptr, &listener_, logLevel_, &guard) !=
+      BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
+    report("the trace graph");
+    return false;
+  }
+  // The muxer adds a free input port each time one is connected.
+  const std::uint64_t free = bt_component_filter_get_input_port_count(muxer_) - 1;
+  return connect(port, bt_component_filter_borrow_input_port_by_index_const(guard, 0)) &&
+         connect(bt_component_filter_borrow_output_port_by_index_const(guard, 0),
+                 bt_component_filter_borrow_input_port_by_index_const(muxer_, free));
 }
 
 void TraceGraph::destroy() {
@@ -196,7 +217,9 @@ void TraceGraph::destroy() {
   muxer_ = nullptr;
 }
 
-TraceGraph::TraceGraph(const TraceRequest& request, MessageConsumer& consumer) {
+TraceGraph::TraceGraph(const TraceRequest& request, MessageConsumer& consumer)
+    : guardClass_(createErrorGuardClass()),
+      listener_([this](const bt_error* error) { report("a trace", error); }) {
   // Every problem is reported in one line; the components' own log lines only when the
   // user asks for the details, at the level babeltrace2's command line logs at.
   logLevel_ = request.diagnostics ? BT_LOGGING_LEVEL_WARNING : BT_LOGGING_LEVEL_NONE;
@@ -230,15 +253,6 @@ TraceGraph::~TraceGraph() {
 TraceGraph::Step TraceGraph::step() {
   if (!graph_) return Step::Failed;
   const bt_graph_run_once_status status = bt_graph_run_once(graph_);
-  // A source may leave an error on the thread and still return OK (a stream it stops
-  // reading part-way): that is a damaged stream, and the graph goes on without it. The
-  // error must be taken before libbabeltrace2 is called again.
-  if (status == BT_GRAPH_RUN_ONCE_STATUS_OK || status == BT_GRAPH_RUN_ONCE_STATUS_AGAIN) {
-    if (const bt_error* lingering = bt_current_thread_take_error()) {
-      bt_current_thread_move_error(lingering);
-      report("a trace");
-    }
-  }
   switch (status) {
   case BT_GRAPH_RUN_ONCE_STATUS_OK: return Step::More;
   case BT_GRAPH_RUN_ONCE_STATUS_AGAIN: std::this_thread::sleep_for(kLiveRetry); return Step::More;

@@ -2,6 +2,7 @@
 // program that links the reader in rather than loading it as a plug-in.
 #pragma once
 
+#include "tracing/ErrorGuard.h"
 #include "tracing/MessageConsumer.h"
 #include "tracing/TraceDiscovery.h"
 #include "tracing/TraceRequest.h"
@@ -9,6 +10,7 @@
 #include <babeltrace2/babeltrace.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -56,15 +58,27 @@ private:
              MessageConsumer& consumer, std::size_t& failedSource);
   const bt_plugin* plugin(const char* name);
   const bt_component_source* addSource(const TraceSource& source, std::size_t index);
+  /// Connects `port` to the muxer through an error guard (tracing/ErrorGuard.h).
+  bool addGuarded(const bt_port_output* port);
   bool addSink(const TraceRequest& request, MessageConsumer& consumer);
   bool connect(const bt_port_output* from, const bt_port_input* to);
   /// Records what the current thread's error says went wrong: `what` and its reason.
   void report(const std::string& what);
+  /// Records what `error` says went wrong; `what` names the subject when it names none.
+  void report(const std::string& what, const bt_error* error);
   void destroy();
 
   std::vector<std::string> problems_, details_;
   std::vector<TraceSource> sources_; ///< those of the graph, by the index in their names
   std::vector<const bt_plugin*> plugins_; // outlive the graph, whose components use them
+  struct PutFilterClass {
+    void operator()(bt_component_class_filter* filterClass) const {
+      bt_component_class_filter_put_ref(filterClass);
+    }
+  };
+  std::unique_ptr<bt_component_class_filter, PutFilterClass> guardClass_;
+  ErrorListener listener_; ///< reports what the guards take
+  std::size_t guards_ = 0;
   const bt_plugin* ctf_ = nullptr;
   bt_graph* graph_ = nullptr;
   const bt_component_filter* muxer_ = nullptr;

@@ -1,4 +1,4 @@
-// StringTable: lookups after many additions, a full table, entries that stay put.
+// StringTable: lookups after many additions, entries that stay put.
 #include "decoding/StringTable.h"
 
 #include <gtest/gtest.h>
@@ -25,15 +25,6 @@ TEST(StringTable, FindsEveryEntryAddedAndNothingElse) {
   }
   for (const char* absent : {"", "ID", "ID300", "id0", "ID0 "})
     EXPECT_EQ(table.find(absent), nullptr) << absent;
-}
-
-TEST(StringTable, RefusesEntriesPastThreeQuartersOfItsSlots) {
-  StringTable<int> table;
-  int accepted = 0;
-  while (table.add(std::to_string(accepted))) ++accepted;
-  EXPECT_EQ(accepted, 384);
-  EXPECT_TRUE(table.find("383"));
-  EXPECT_EQ(table.find("384"), nullptr);
 }
 
 } // namespace

@@ -31,30 +31,6 @@ TEST_F(Registration, EveryIdOnceThroughEachCallFormatFirst) {
   EXPECT_EQ(log.size(), 2 * ids.size());
 }
 
-TEST_F(Registration, AliasesRegisterTheSameFunctions) {
-  for (auto [alias, id] : {std::pair{"P", "AM4"}, std::pair{"P6", "AM6"}}) {
-    const auto* a = host::findFormatter(alias);
-    const auto* b = host::findFormatter(id);
-    ASSERT_TRUE(a && b);
-    EXPECT_EQ(*a->format.target<FormatPtr>(), *b->format.target<FormatPtr>()) << alias;
-    EXPECT_EQ(*a->length.target<LengthPtr>(), *b->length.target<LengthPtr>()) << alias;
-  }
-}
-
-TEST_F(Registration, EvpnL2VersionsShareOnlyTheirLengthFunction) {
-  const auto* v3 = host::findFormatter("EL2V3");
-  const auto* v2 = host::findFormatter("EL2");
-  const auto* v1 = host::findFormatter("EL2old");
-  ASSERT_TRUE(v3 && v2 && v1);
-  const LengthPtr length = *v3->length.target<LengthPtr>();
-  EXPECT_EQ(*v2->length.target<LengthPtr>(), length);
-  EXPECT_EQ(*v1->length.target<LengthPtr>(), length);
-  const std::set<FormatPtr> formats{*v3->format.target<FormatPtr>(),
-                                    *v2->format.target<FormatPtr>(),
-                                    *v1->format.target<FormatPtr>()};
-  EXPECT_EQ(formats.size(), 3u);
-}
-
 TEST_F(Registration, LoadingAgainRegistersNothingNew) {
   const auto before = host::registrationLog().size();
   EXPECT_TRUE(host::loadPlugin(PLUGIN_PATH).empty());

@@ -179,7 +179,8 @@ TEST_F(TraceGraphTest, ReportsDamageInOneLineAndReadsTheRest) {
 
   EventConsumer damaged;
   tracing::TraceGraph corrupt(request("corrupt"), damaged);
-  EXPECT_EQ(corrupt.run(), tracing::TraceGraph::Step::Failed);
+  EXPECT_EQ(corrupt.run(), tracing::TraceGraph::Step::End); // the stream ends; others go on
+  EXPECT_TRUE(corrupt.damaged());
   EXPECT_EQ(damaged.collected.events.size(), 5u); // the first packet, whole
   EXPECT_EQ(corrupt.problems(), std::vector<std::string>{
                                     "cannot read " + at("corrupt/stream_0") +
@@ -229,7 +230,7 @@ TEST_F(TraceGraphTest, PrintedLinesSurviveAnAbort) {
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 5) << text;
 }
 
-// ovfmt --trace on the same traces: its options, its one-line problems and its status.
+// ovfmt --trace on the same traces: what it prints, its one-line problems and its status.
 TEST_F(TraceGraphTest, OvfmtReadsTracesAsTheSinkDoes) {
   const auto ovfmt = [](const std::string& arguments) {
     const std::string command = OVFMT " 2>&1 " + arguments; // before any redirection of theirs
@@ -253,13 +254,6 @@ TEST_F(TraceGraphTest, OvfmtReadsTracesAsTheSinkDoes) {
       {"--trace " + good + " >/dev/full", 1, "ovfmt: cannot write the output\n"},
       {"--trace " + at("corrupt") + " --begin 1700000002", 1, "ovfmt: cannot read " + at("corrupt/stream_0") + " to its end: No event class"},
       {"--trace " + at("none"), 2, "ovfmt: no CTF trace (a directory with a metadata file) in "},
-      {"--trace " + good + " --begin 99999999999999999999", 2, "ovfmt: the time \"99999999999999999999\" is out of range"},
-      {"--trace " + good + " --begin 2 --end 1", 2, "ovfmt: the range's begin is after its end\nTry"},
-      {"--trace " + good + " --counts", 2, "ovfmt: --counts does not go with --trace\n"},
-      {"--trace", 2, "ovfmt: --trace needs a trace: give INPUT...\n"},
-      {"--json PGO 01 14 0a 01 10", 2, "ovfmt: --json goes with --trace\n"},
-      {"--jsn --trace " + good, 2, "ovfmt: unknown option '--jsn' (did you mean --json?)\n"},
-      {"PGO -- --trace", 1, "ovfmt: PGO: "}, // after "--", a word like any other
   };
   for (const Case& c : cases) {
     const auto [status, shown] = ovfmt(c.arguments);
