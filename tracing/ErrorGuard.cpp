@@ -64,37 +64,38 @@ void takeError(const Guard& guard) {
   }
 }
 
-/// Pulls the next batch from upstream into `guard.pending`; the status to return when
-/// there is nothing to pass on. A stream that fails ends there: the error is reported
-/// and the other streams are read on.
-bt_message_iterator_class_next_method_status pull(Guard& guard) {
-  bt_message_array_const messages;
-  std::uint64_t count = 0;
-  switch (bt_message_iterator_next(guard.upstream, &messages, &count)) {
-  case BT_MESSAGE_ITERATOR_NEXT_STATUS_OK: break;
-  case BT_MESSAGE_ITERATOR_NEXT_STATUS_AGAIN: return BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_AGAIN;
-  case BT_MESSAGE_ITERATOR_NEXT_STATUS_MEMORY_ERROR:
-    return BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_MEMORY_ERROR;
-  default: guard.ended = true; break; // its end, or an error
-  }
-  guard.pending.insert(guard.pending.end(), messages, messages + count);
-  takeError(guard);
-  return guard.ended ? BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_END
-                     : BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_AGAIN;
+/// Moves up to `capacity` messages of `from` (the pending ones first) into `to`.
+std::uint64_t pass(Guard& guard, bt_message_array_const from, std::uint64_t count,
+                   bt_message_array_const to, std::uint64_t capacity) {
+  std::uint64_t passed = std::min<std::uint64_t>(capacity, guard.pending.size());
+  std::copy_n(guard.pending.begin(), passed, to);
+  guard.pending.erase(guard.pending.begin(), guard.pending.begin() + static_cast<long>(passed));
+  const std::uint64_t direct = std::min(capacity - passed, count);
+  std::copy_n(from, direct, to + passed);
+  guard.pending.insert(guard.pending.end(), from + direct, from + count);
+  return passed + direct;
 }
 
 bt_message_iterator_class_next_method_status next(bt_self_message_iterator* self,
                                                   bt_message_array_const messages,
                                                   std::uint64_t capacity, std::uint64_t* count) {
   Guard& guard = *guardOf(self);
+  bt_message_array_const upstream = nullptr;
+  std::uint64_t pulled = 0;
   if (guard.pending.empty() && !guard.ended) {
-    if (const auto status = pull(guard); guard.pending.empty()) return status;
+    switch (bt_message_iterator_next(guard.upstream, &upstream, &pulled)) {
+    case BT_MESSAGE_ITERATOR_NEXT_STATUS_OK: break;
+    case BT_MESSAGE_ITERATOR_NEXT_STATUS_AGAIN:
+      return BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_AGAIN;
+    case BT_MESSAGE_ITERATOR_NEXT_STATUS_MEMORY_ERROR:
+      return BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_MEMORY_ERROR;
+    default: guard.ended = true; break; // its end, or an error: the stream ends here
+    }
+    takeError(guard);
   }
-  if (guard.pending.empty()) return BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_END;
-  *count = std::min<std::uint64_t>(capacity, guard.pending.size());
-  std::copy_n(guard.pending.begin(), *count, messages);
-  guard.pending.erase(guard.pending.begin(), guard.pending.begin() + static_cast<long>(*count));
-  return BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_OK;
+  *count = pass(guard, upstream, pulled, messages, capacity);
+  return *count > 0 ? BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_OK
+                    : BT_MESSAGE_ITERATOR_CLASS_NEXT_METHOD_STATUS_END;
 }
 
 } // namespace
