@@ -3,6 +3,7 @@
 #include "decoding/IdList.h"
 #include "decoding/Problems.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace Orvane::ovfmt {
@@ -203,11 +204,8 @@ constexpr OptionRow kOptions[] = {
 };
 
 // Where the options of --trace start in kOptions.
-constexpr std::size_t kFirstTraceOption = [] {
-  std::size_t i = 0;
-  while (kOptions[i].name != "trace") ++i;
-  return i;
-}();
+constexpr std::size_t kFirstTraceOption = static_cast<std::size_t>(
+    std::ranges::find(kOptions, std::string_view("trace"), &OptionRow::name) - kOptions);
 
 // The words a mode takes: how many, at least and at most.
 std::string checkWords(const Options& options) {
