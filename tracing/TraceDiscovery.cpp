@@ -14,21 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The hex form of a 16-byte UUID, "8cae024d-4323-557c-aeca-7e0e1829c4e7".
-std::string uuidText(const unsigned char* bytes) {
-  static constexpr char kDigits[] = "0123456789abcdef";
-  std::string text;
-  for (int i = 0; i < 16; ++i) {
-    if (i == 4 || i == 6 || i == 8 || i == 10) text += '-';
-    text += kDigits[bytes[i] >> 4];
-    text += kDigits[bytes[i] & 0xf];
-  }
-  return text;
-}
-
-/// The UUID of the trace whose metadata file is `metadata`: from the header of its first
-/// packet when it is packetized, else the `uuid` of its text's trace block. Empty when
-/// it names none. Traces of one UUID are copies of one trace, as babeltrace2 groups them.
+/// The UUID of the trace whose metadata file is `metadata`, as a key to group by: the 16
+/// bytes of its first packet's header when it is packetized, else the `uuid` of its
+/// text's trace block. Empty when it names none. Traces of one UUID are copies of one
+/// trace, as babeltrace2 groups them.
 std::string traceUuid(const fs::path& metadata) {
   std::ifstream in(metadata, std::ios::binary);
   std::string text((std::istreambuf_iterator<char>(in)), {});
@@ -36,7 +25,7 @@ std::string traceUuid(const fs::path& metadata) {
   std::uint32_t magic = 0;
   if (text.size() >= 20) std::memcpy(&magic, text.data(), sizeof magic);
   if (magic == kPacketMagic || magic == __builtin_bswap32(kPacketMagic))
-    return uuidText(reinterpret_cast<const unsigned char*>(text.data()) + 4);
+    return text.substr(4, 16);
   static const std::regex kTraceUuid(R"re(trace\s*\{[^}]*?uuid\s*=\s*"([0-9A-Fa-f-]{36})")re");
   std::smatch found;
   return std::regex_search(text, found, kTraceUuid) ? found[1].str() : "";

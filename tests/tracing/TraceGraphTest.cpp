@@ -163,6 +163,22 @@ TEST_F(TraceGraphTest, FindsAndNamesTracesAsBabeltrace2Does) {
   EXPECT_EQ(found.sources[3].name, "");
   ASSERT_EQ(found.problems.size(), 1u);
   EXPECT_EQ(found.problems[0], "cannot read " + at("none") + ": No such file or directory");
+
+  // One UUID, one trace: from a packetized metadata file's first header, or its text.
+  const auto write = [](const std::string& dir, const std::string& metadata) {
+    fs::create_directories(at(dir.c_str()));
+    std::ofstream(at((dir + "/metadata").c_str()), std::ios::binary) << metadata;
+  };
+  const std::string header("\x57\x1d\xd1\x75", 4), uuid(16, 'u'), other(16, 'o');
+  for (const char* copy : {"groups/p1", "groups/p2"}) write(copy, header + uuid + "rest");
+  write("groups/p3", header + other + "rest");
+  for (const char* copy : {"groups/t1", "groups/t2"})
+    write(copy, "trace {\n\tuuid=\"2a75c3ff-37de-55b8-b1bb-23c86d2d99c1\"; };");
+  const auto groups = tracing::discoverTraces({at("groups")});
+  ASSERT_EQ(groups.sources.size(), 3u);
+  EXPECT_EQ(groups.sources[0].inputs.size(), 2u);
+  EXPECT_EQ(groups.sources[1].inputs, std::vector<std::string>{at("groups/p3")});
+  EXPECT_EQ(groups.sources[2].inputs.size(), 2u);
 }
 
 TEST_F(TraceGraphTest, ReportsDamageInOneLineAndReadsTheRest) {
@@ -247,7 +263,9 @@ TEST_F(TraceGraphTest, OvfmtReadsTracesAsTheSinkDoes) {
     std::string shown; // a part of what is printed (stdout, then stderr)
   };
   const Case cases[] = {
-      {"--trace " + good + " --end 1700000001.000000", 0, "addr = 10.0.0.1%et1 }\n"},
+      {"--trace " + good + " --end 1700000001.000000 --fail-on-loss", 0, "et1 }\n"},
+      {"--trace " + good + " --end 1700000001.000001", 1, "ovfmt: 1 typed field invalid\n"},
+      {"--trace net://127.0.0.1:1/host/h/s", 1, "cannot read the trace net://127.0.0.1:1/host/h/s"},
       {"--trace " + good + " --events 'app:*' --json", 0, "\"name\":\"app:message\",\"trace\":\"router1\""},
       {"--trace " + lossy + " --events 'app:*'", 0, "ovfmt: 7 events and 1 packet discarded by the tracer\n"},
       {"--trace " + lossy + " --events 'app:*' --fail-on-loss", 1, "1000] and ["}, // a warning
