@@ -1,7 +1,6 @@
-"""orvane.trace and orvane.dask: traces written byte by byte (every kind of invalid value,
-lost events, damage made here from them), and a fleet of four traces of the example
-speaker recorded through LTTng-UST, checked against babeltrace2's own Python reading and
-the formatters' texts."""
+"""orvane.trace and orvane.dask: traces written byte by byte (invalid values, lost events,
+damage made here from them), and a fleet of four traces of the example speaker recorded
+through LTTng-UST, checked against babeltrace2's own Python reading and the formatters."""
 
 import collections
 import doctest
@@ -53,20 +52,13 @@ def setUpModule():
                        check=True, capture_output=True, env=env)
 
 
-def bt2_payloads(path):
-    """(event name, {member name: value}) of every event, as babeltrace2's Python reads it."""
-    out = []
-    for message in bt2.TraceCollectionMessageIterator(str(path)):
-        if type(message) is bt2._EventMessageConst:
-            payload = message.event.payload_field
-            out.append((message.event.name, {name: payload[name] for name in payload}))
-    return out
-
-
 class RecordedTrace(unittest.TestCase):
     def test_every_typed_field_is_its_formatters_text(self):
         path = WORK / "fleet" / "r1"
-        events, expected = list(orvane.trace.events(path)), bt2_payloads(path)
+        events = list(orvane.trace.events(path))
+        expected = [(m.event.name, dict(m.event.payload_field))  # as babeltrace2's Python reads
+                    for m in bt2.TraceCollectionMessageIterator(str(path))
+                    if type(m) is bt2._EventMessageConst]
         self.assertEqual([e.name for e in events], [name for name, _ in expected])
         typed = 0
         for event, (_, payload) in zip(events, expected):
@@ -74,50 +66,31 @@ class RecordedTrace(unittest.TestCase):
                 shown, _, type_id = member.rpartition("__")
                 if member.endswith("_length"):  # the length of a sequence is not shown
                     self.assertNotIn(member.strip("_"), event.fields)
-                    continue
-                if not shown:
+                elif not shown:
                     self.assertEqual(event.fields[member], value, member)
-                    continue
-                data = bytes(value)
-                self.assertEqual(event.raw[shown], data)
-                self.assertEqual(event.fields[shown], orvane.format(type_id, data))
-                typed += 1
+                else:
+                    typed += 1
+                    self.assertEqual(event.raw[shown], bytes(value))
+                    self.assertEqual(event.fields[shown], orvane.format(type_id, bytes(value)))
         self.assertGreater(typed, 100)
-        stamps = [e.timestamp_ns for e in events]
-        self.assertEqual(stamps, sorted(stamps))
-
-    def test_begin_and_end_keep_the_events_between(self):
-        path = WORK / "fleet" / "r2"
-        stamps = [e.timestamp_ns for e in orvane.trace.events(path)]
-        begin, end = stamps[10], stamps[30]
-        for bounds in ({"begin": begin, "end": end}, {"begin": begin}, {"end": end}):
-            kept = [e.timestamp_ns for e in orvane.trace.events(path, **bounds)]
-            self.assertEqual(kept, [t for t in stamps
-                                    if bounds.get("begin", t) <= t <= bounds.get("end", t)])
-
 
     def test_documented_examples(self):
-        import dask
+        names = {"trace_dir": WORK / "fleet/r1"}
         with dask.config.set(scheduler="sync"):
-            for module in (orvane.trace, orvane.dask):
-                with self.subTest(module=module.__name__):
-                    result = doctest.testmod(module, extraglobs={"trace_dir": WORK / "fleet/r1"})
-                    self.assertEqual((result.failed, result.attempted > 0), (0, True))
-            docs = doctest.testfile(str(TESTS.parent / "docs/traces.md"), module_relative=False,
-                                    extraglobs={"trace_dir": WORK / "fleet/r1"})
-            self.assertEqual((docs.failed, docs.attempted > 0), (0, True))
+            results = [doctest.testmod(module, extraglobs=names)
+                       for module in (orvane.trace, orvane.dask)]
+            results.append(doctest.testfile(str(TESTS.parent / "docs/traces.md"),
+                                            module_relative=False, extraglobs=names))
+        self.assertEqual([(r.failed, r.attempted > 0) for r in results], [(0, True)] * 3)
 
 
 class WrittenTrace(unittest.TestCase):
     def test_invalid_values_say_why_and_keep_their_bytes(self):
-        events = list(orvane.trace.events(WORK / "written" / "good"))
-        self.assertEqual([e.fields["seq"] for e in events], [1, 2, 3, 4, 5])
-        route = events[1]
-        self.assertEqual(route.fields["prefix"], "10.1.16.0/20")
-        self.assertEqual(route.fields["raw"], [1, 2])  # a byte array without an id
+        events = list(orvane.trace.events(WRITTEN / "good"))
+        self.assertEqual(events[1].fields["prefix"], "10.1.16.0/20")
+        self.assertEqual(events[1].fields["raw"], [1, 2])  # a byte array without an id
         cases = [  # (event, field, reason starts with, bytes)
             (1, "blob", 'unknown id "NOPE"', b"\x03"),
-            (2, "prefix", "invalid encoding", b"\x07"),
             (2, "nexthop", "value too short: 10 bytes given, BNH needs 16", make_trace.BNH[:10]),
             (3, "nexthop", "empty value", b""),
         ]
@@ -132,20 +105,12 @@ class WrittenTrace(unittest.TestCase):
         self.assertEqual(events[4].fields["text"], make_trace.VALUES[4][1]["text"].decode(
             "utf-8", "backslashreplace"))  # control characters as traced: escaping is display's
 
-    def test_types_map_fields_without_an_id(self):
-        events = orvane.trace.events(WORK / "written" / "good", types=["bgp:route.raw=PGO"])
-        self.assertEqual([e.fields["raw"] for e in events if e.fields["seq"] == 4],
-                         ["10.1.16.0/20"])
-
     def test_events_and_bounds_keep_what_they_name(self):
         at = lambda seq: FIRST_NS + (seq - 1) * 1000  # noqa: E731 (events 1 µs apart)
         cases = [  # (keywords, the seqs kept)
             ({"events": "bgp:route"}, [2, 3, 4]),
-            ({"events": "bgp:peer_up,app:*"}, [1, 5]),
             ({"events": ["app:*", "bgp:peer_?p"]}, [1, 5]),
-            ({"events": "nothing:*"}, []),
             ({"begin": at(2), "end": at(4)}, [2, 3, 4]),
-            ({"begin": at(5) + 1}, []),
             ({"begin": "1700000001.000001", "end": str(at(4))}, [2, 3, 4]),
             ({"end": at(3), "events": ["bgp:*"]}, [1, 2, 3]),
         ]
@@ -160,8 +125,6 @@ class WrittenTrace(unittest.TestCase):
             (good, {"begin": "soon"}, ValueError, 'cannot read the time "soon": give'),
             (good, {"end": 2**63}, ValueError, 'the time "9223372036854775808" is out of range'),
             (good, {"begin": 5, "end": 4}, ValueError, "the range's begin is after its end"),
-            (good, {"events": "bgp:*,"}, ValueError, "events takes GLOB[,GLOB]: a pattern is"),
-            (good, {"types": ["route=PGO"]}, ValueError, 'types takes "EVENT.FIELD=ID", not'),
             (good, {"begin": 1.5}, TypeError, "begin takes an int of nanoseconds or a str"),
             (good, {"events": [b"bgp:*"]}, TypeError, "events takes a str or an iterable"),
             ([], {}, ValueError, "no trace to read: paths is empty"),
@@ -174,40 +137,35 @@ class WrittenTrace(unittest.TestCase):
                 self.assertTrue(str(caught.exception).startswith(message), caught.exception)
                 self.assertNotIn("\n", str(caught.exception))
 
-    def test_lost_events_are_counted_where_they_were_lost_and_warned_of_once(self):
+    def test_each_event_carries_its_trace_and_lost_events_are_warned_of_once(self):
         warning = ('7 events discarded between timestamp_ns 1700000002000001000 and '
-                   '1700000003000002000 in stream 0 of trace "router1"')
-        cases = [  # (trace, (discarded events, packets) by the time each seq comes, warning)
-            ("good", [(0, 0)] * 5, []),
-            ("discarded", [(0, 0)] * 2 + [(7, 1)] * 3, [warning]),
-        ]
-        for trace, counts, warned in cases:
-            with self.subTest(trace=trace), warnings.catch_warnings(record=True) as caught:
-                warnings.simplefilter("always")
-                events = orvane.trace.events(WRITTEN / trace)
-                seen = [(events.discarded_events, events.discarded_packets) for _ in events]
-                self.assertEqual(seen, counts)
-                self.assertEqual(events.discarded_by_trace, {"router1": (7, 1)} if warned else {})
-                lost = [w for w in caught if w.category is DiscardedEventsWarning]
-                self.assertEqual([str(w.message) for w in lost], warned)
-                # The warning points at the loop that reads, not into orvane.
-                self.assertEqual({w.filename for w in lost}, {__file__} if warned else set())
-
-    def test_each_event_carries_its_trace(self):
-        cases = [  # (paths, events per trace, discarded per trace)
+                   '1700000003000002000 in stream 0 of trace "{}"')
+        cases = [  # (paths, events per trace, discarded events and packets per trace)
+            (WRITTEN / "good", {"router1": 5}, {}),
             (WORK / "pair", {"router1/good": 5, "router1/discarded": 5},
              {"router1/discarded": (7, 1)}),
             ([WRITTEN / "good", str(WRITTEN / "discarded")], {"router1": 10}, {"router1": (7, 1)}),
         ]
         for paths, per_trace, discarded in cases:
-            with self.subTest(paths=paths), warnings.catch_warnings():
-                warnings.simplefilter("ignore", DiscardedEventsWarning)
+            with self.subTest(paths=paths), warnings.catch_warnings(record=True) as caught:
+                warnings.simplefilter("always")
                 events = orvane.trace.events(paths)
-                read = list(events)
-                self.assertEqual(collections.Counter(e.trace for e in read), per_trace)
+                read = [(e.trace, e.timestamp_ns) for e in events]
+                self.assertEqual(collections.Counter(trace for trace, _ in read), per_trace)
+                self.assertEqual(read, sorted(read, key=lambda e: e[1]))  # merged in time order
                 self.assertEqual(events.discarded_by_trace, discarded)
-                stamps = [e.timestamp_ns for e in read]
-                self.assertEqual(stamps, sorted(stamps))  # merged in time order
+                # Once, naming the trace (one at most loses events here), and pointing at the
+                # loop that reads, not into orvane.
+                self.assertEqual([(str(w.message), w.filename) for w in caught
+                                  if w.category is DiscardedEventsWarning],
+                                 [(warning.format(*discarded), __file__)] if discarded else [])
+
+    def test_lost_events_are_counted_where_they_were_lost(self):
+        events = orvane.trace.events(WRITTEN / "discarded")
+        with warnings.catch_warnings():
+            warnings.simplefilter("ignore", DiscardedEventsWarning)
+            seen = [(events.discarded_events, events.discarded_packets) for _ in events]
+        self.assertEqual(seen, [(0, 0)] * 2 + [(7, 1)] * 3)  # as each of the five events comes
 
     def test_damage_comes_after_the_events_read_before_it(self):
         corrupt, cut = WRITTEN / "corrupt", WORK / "damaged" / "cut"
@@ -223,9 +181,8 @@ class WrittenTrace(unittest.TestCase):
                     for event in orvane.trace.events(paths):
                         read.append(event.fields["seq"])
                 self.assertEqual(read, seqs)
-                error = caught.exception
-                self.assertEqual(len(error.problems), 1, error.problems)
-                self.assertTrue(error.problems[0].startswith(problem), error.problems[0])
+                error = caught.exception  # one problem
+                self.assertEqual([p[:len(problem)] for p in error.problems], [problem])
                 self.assertEqual((str(error), isinstance(error, ValueError)),
                                  (error.problems[0], True))
                 sent = pickle.loads(pickle.dumps(error))  # as Dask sends it between processes
@@ -244,15 +201,7 @@ class Fleet(unittest.TestCase):
                 self.assertIn(f"  {name}: {names.count(name)} events\n", together)
         self.assertIn("    prefix ", together)
 
-    def test_one_partition_per_trace(self):
-        paths = [WORK / "fleet" / router for router in ROUTERS]
-        bag = orvane.dask.events(paths)
-        self.assertEqual(bag.npartitions, 4)
-        first = bag.take(1)[0]
-        self.assertEqual((first["trace"], sorted(first)),
-                         (str(paths[0]), ["event", "fields", "timestamp_ns", "trace"]))
-
-    def test_discarded_says_which_trace_lost_events_from_the_same_reading(self):
+    def test_one_partition_per_trace_and_discarded_from_the_same_reading(self):
         paths = [WRITTEN / "good", WRITTEN / "discarded"]
         keywords = {"events": "bgp:route", "types": ["bgp:route.raw=PGO"]}
         read, reading = [], orvane.dask._read_trace
@@ -261,13 +210,17 @@ class Fleet(unittest.TestCase):
             return reading(path, *arguments)
         with mock.patch.object(orvane.dask, "_read_trace", counted), \
                 dask.config.set(scheduler="sync"):
-            raws, lost = dask.compute(orvane.dask.events(paths, **keywords).pluck("fields")
-                                      .pluck("raw").frequencies(),
+            bag = orvane.dask.events(paths, **keywords)
+            self.assertEqual(bag.npartitions, 2)
+            raws, lost = dask.compute(bag.pluck("fields").pluck("raw").frequencies(),
                                       orvane.dask.discarded(paths, **keywords))
         self.assertEqual(sorted(read), sorted(map(str, paths)))  # each read once for both
         self.assertEqual(dict(raws)["10.1.16.0/20"], 2)  # the keywords reached the reader
         self.assertEqual(lost, [{"trace": str(paths[0]), "events": 0, "packets": 0},
                                 {"trace": str(paths[1]), "events": 7, "packets": 1}])
+        first = bag.take(1)[0]
+        self.assertEqual((first["trace"], sorted(first)),
+                         (str(paths[0]), ["event", "fields", "timestamp_ns", "trace"]))
 
     def test_the_report_names_the_routers_that_lost_events(self):
         report = fleet_report.main([str(WORK / "pair"), "--field", "seq", "--scheduler", "sync"])
