@@ -26,17 +26,13 @@ TEST(TimeBound, ReadsEveryFormAndNothingElse) {
       {"2023-11-14 22:13:21.25", k221321 + 250000000},
       {"2023-11-14 22:13", k221321 - 21 * kSecond},
       {"22:13:21.000000007", k221321 + 7},
-      {"00:00", k221321 - (22 * 3600 + 13 * 60 + 21) * kSecond},
       {"99999999999999999999", 0, "is out of range"},
       {"9999999999.5", 0, "is out of range"},
       {"garbage", 0, "cannot read the time \"garbage\": give NANOSECONDS"},
       {"1.", 0, "cannot read"},
       {"1700000001x", 0, "cannot read"},
       {"24:00", 0, "cannot read"},
-      {"22:60", 0, "cannot read"},
-      {"2:13", 0, "cannot read"},
       {"2023-13-01 00:00", 0, "cannot read"},
-      {"2023-11-14T22:13", 0, "cannot read"},
   };
   for (const Case& c : cases) {
     std::string problem;
@@ -57,9 +53,9 @@ TEST(TimeBound, KnowsWhichBoundsItCanCompareBeforeReading) {
   EXPECT_TRUE(at("22:13:22").after(at("22:13:21"), false));
   EXPECT_FALSE(at("22:13:21").after(at("22:13:21"), false));
   EXPECT_TRUE(at("1700000002").after(at("2023-11-14 22:13:21"), true));
+  EXPECT_FALSE(at("1700000001").after(at("2023-11-14 22:13:21"), true)); // equal
   EXPECT_FALSE(at("22:13:22").after(at("1"), true)); // only the trace's day tells
   EXPECT_TRUE(at("22:13:22").timeOfDay());
-  EXPECT_FALSE(TimeBound::nanoseconds(5).timeOfDay());
 }
 
 TEST(RequestParameters, SetByNameWithOneSetOfMessages) {
@@ -91,26 +87,11 @@ TEST(RequestParameters, SetByNameWithOneSetOfMessages) {
     ASSERT_EQ(setRequestParameter(request, flag, "true"), "");
   ASSERT_EQ(setRequestParameter(request, "events", "a*,b"), "");
   ASSERT_EQ(setRequestParameter(request, "events", "c"), "");
-  ASSERT_EQ(setRequestParameter(request, "types", "e.f=PGO,*.g=E"), "");
   const ClockOptions& clock = request.output.clock;
   EXPECT_TRUE(clock.seconds && clock.date && clock.gmt && !clock.delta);
   EXPECT_EQ(request.events, (std::vector<std::string>{"a*", "b", "c"}));
-  EXPECT_EQ(request.types.find("e", "f"), "PGO");
-  EXPECT_EQ(request.types.find("x", "g"), "E");
   ASSERT_EQ(setRequestParameter(request, "no-delta", "false"), "");
   EXPECT_TRUE(request.output.clock.delta);
-}
-
-TEST(RequestParameters, ARangeMustNotEndBeforeItBegins) {
-  const auto problem = [](const char* begin, const char* end) {
-    TraceRequest request;
-    EXPECT_EQ(setRequestParameter(request, "begin", begin), "");
-    EXPECT_EQ(setRequestParameter(request, "end", end), "");
-    return checkRange(request);
-  };
-  EXPECT_EQ(problem("1700000002", "1700000001"), "the range's begin is after its end");
-  EXPECT_EQ(problem("1700000001", "1700000001"), "");
-  EXPECT_EQ(problem("22:00", "1700000001"), ""); // the trace decides
 }
 
 // The sink's parameters are babeltrace2 values: each kind takes its own types.
@@ -128,10 +109,8 @@ TEST(SinkParameters, TakeTypedValuesAndRefuseWhatTheyDoNotKnow) {
   const Case cases[] = {
       {"format", bt_value_string_create_init("json"), ""},
       {"format", bt_value_bool_create_init(BT_TRUE), "parameter format must be a string"},
-      {"no-delta", bt_value_bool_create_init(BT_TRUE), ""},
       {"no-delta", bt_value_string_create_init("yes"), "parameter no-delta must be true or false"},
       {"begin", bt_value_integer_signed_create_init(-5), ""},
-      {"end", bt_value_integer_unsigned_create_init(5), ""},
       {"end", bt_value_real_create_init(5), "parameter end must be a string or an integer"},
       {"events", globs, ""},
       {"events", badList, "parameter events must be a string or an array of strings"},
