@@ -14,14 +14,21 @@ constexpr std::size_t kFlushSize = 1 << 20;
 /// crash handler may read it at any moment.
 constexpr std::size_t kReserved = 2 * kFlushSize;
 
-bool writeAll(int fd, std::string& text) {
-  std::size_t done = 0;
-  while (done < text.size()) {
-    const ssize_t n = write(fd, text.data() + done, text.size() - done);
+/// Writes `size` bytes at `data` to `fd`; false when it cannot. Async-signal-safe.
+bool writeFully(int fd, const char* data, std::size_t size) {
+  while (size > 0) {
+    const ssize_t n = write(fd, data, size);
     if (n < 0 && errno == EINTR) continue;
     if (n <= 0) return false;
-    done += static_cast<std::size_t>(n);
+    data += n;
+    size -= static_cast<std::size_t>(n);
   }
+  return true;
+}
+
+/// Writes `text` to `fd` and empties it; false when it cannot be written.
+bool writeAll(int fd, std::string& text) {
+  if (!writeFully(fd, text.data(), text.size())) return false;
   text.clear();
   return true;
 }
@@ -35,14 +42,7 @@ struct sigaction previous[std::size(kFatalSignals)];
 
 /// Writes the pending lines, then lets the signal do what it did before.
 void writePendingAndDie(int signal) {
-  const char* data = pendingData.load();
-  std::size_t size = data ? pendingSize.load() : 0;
-  while (size > 0) {
-    const ssize_t n = write(STDOUT_FILENO, data, size);
-    if (n <= 0) break;
-    data += n;
-    size -= static_cast<std::size_t>(n);
-  }
+  if (const char* data = pendingData.load()) writeFully(STDOUT_FILENO, data, pendingSize.load());
   for (std::size_t i = 0; i < std::size(kFatalSignals); ++i)
     if (kFatalSignals[i] == signal) sigaction(signal, &previous[i], nullptr);
   raise(signal);

@@ -221,7 +221,7 @@ std::string checkWords(const Options& options) {
   case Mode::Describe:
     if (words == 0) return "--describe needs an id";
     return words > 1 ? "--describe takes one ID" : "";
-  case Mode::Trace: return words ? "" : "--trace needs a trace: give INPUT...";
+  case Mode::Trace: return words ? std::string() : "--trace needs a trace: give INPUT...";
   }
   return "";
 }
