@@ -3,7 +3,7 @@
 # while babeltrace2 with the plug-in behind source.ctf.lttng-live reads it, then again
 # while ovfmt --trace reads it; every event arrives, typed fields as their text, and both
 # print the same lines. Uses scripts/lttng-daemon.bash for the session daemon.
-# usage: live_test.sh BABELTRACE2 PLUGIN_DIR SPEAKER OVFMT (BT_PRELOAD: preloaded into both)
+# usage: live_test.sh BABELTRACE2 PLUGIN_DIR SPEAKER OVFMT (BT_PRELOAD: preloaded into babeltrace2)
 set -euo pipefail
 babeltrace2=$1 plugin_dir=$2 speaker=$3 ovfmt=$4
 source "$(dirname "$0")/../../scripts/lttng-daemon.bash"
@@ -32,8 +32,8 @@ live() {
   lttng create "$session" --live=200000 --set-url=net://127.0.0.1:$port:$((port + 1)) >/dev/null
   lttng enable-event -u -s "$session" 'orvane_speaker:*' >/dev/null
   lttng start "$session" >/dev/null
-  LD_PRELOAD=${BT_PRELOAD:-} ASAN_OPTIONS=detect_leaks=0 "$@" \
-    "net://127.0.0.1:$((port + 2))/host/$(hostname)/$session" > "$work/all.txt" 2> "$work/$name.log" &
+  ASAN_OPTIONS=detect_leaks=0 "$@" "net://127.0.0.1:$((port + 2))/host/$(hostname)/$session" \
+    > "$work/all.txt" 2> "$work/$name.log" &
   local reader=$! router="live-$$"
   sleep 1
   events=$("$speaker" --events 20 --router "$router" | grep -o 'traced [0-9]*' | cut -d' ' -f2)
@@ -48,7 +48,9 @@ live() {
   [ "$lines" -eq "$events" ] || { echo "live: $name: $lines lines for $events events"; exit 1; }
 }
 
-live babeltrace2 "$babeltrace2" --plugin-path="$plugin_dir" -c sink.orvane.text -i lttng-live
+# babeltrace2 is not instrumented: a sanitized plug-in needs the runtime preloaded into it.
+live babeltrace2 env LD_PRELOAD="${BT_PRELOAD:-}" "$babeltrace2" --plugin-path="$plugin_dir" \
+  -c sink.orvane.text -i lttng-live
 live ovfmt "$ovfmt" --trace
 grep -q "router = \"live-$$\", peer = 10.0.0.1%et1," "$work/ovfmt.txt" || { echo "live: no typed peer key"; exit 1; }
 diff "$work/babeltrace2.txt" "$work/ovfmt.txt" || { echo "live: ovfmt printed other lines"; exit 1; }
