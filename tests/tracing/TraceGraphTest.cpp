@@ -66,7 +66,10 @@ private:
 
 namespace fs = std::filesystem;
 
-std::string at(const char* trace) { return std::string(WORK_DIR) + "/" + trace; }
+// The traces of this process: ctest runs the tests of this file at once, one a process.
+const std::string kWork = std::string(WORK_DIR) + "/" + std::to_string(getpid());
+
+std::string at(const char* trace) { return kWork + "/" + trace; }
 
 // A request for `inputs` with the parameters `name=value` given.
 tracing::TraceRequest request(std::vector<std::string> inputs,
@@ -86,9 +89,8 @@ protected:
   static void SetUpTestSuite() {
     ASSERT_TRUE(host::loadPlugin(PLUGIN_PATH).empty());
     host::registerBaseTypes();
-    const std::string command = std::string(PYTHON " ") + MAKE_TRACE " " + WORK_DIR;
+    const std::string command = std::string(PYTHON " ") + MAKE_TRACE " " + kWork;
     ASSERT_EQ(std::system(command.c_str()), 0);
-    fs::remove_all(at("tree"));
     const std::pair<const char*, const char*> copies[] = {
         {"good", "tree/a/good"}, {"good", "tree/a/copy"}, {"discarded", "tree/b/discarded"},
         {"good", "tree/broken"}};
@@ -98,6 +100,7 @@ protected:
     }
     std::ofstream(at("tree/broken/metadata")) << "/* CTF 1.8 */ not a trace {";
   }
+  static void TearDownTestSuite() { fs::remove_all(kWork); }
 };
 
 TEST_F(TraceGraphTest, KeepsTheEventsTheRequestAsksFor) {
