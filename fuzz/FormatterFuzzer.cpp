@@ -71,9 +71,9 @@ struct Guard {
 };
 
 const std::map<std::string, Guard> kGuards = {
-    {"A", {8, 24}},       {"CPK", {1, 0}},      {"MFGKO", {1, 4}},  {"RRRKO", {0, 4}},
-    {"PGKRO", {0, 4}},    {"FMO", {0, 4}},      {"GR", {0, 2300}},  {"GRO", {0, 2300}},
-    {"BRK", {0, 16}},     {"BRY", {0, 16}},     {"BMPRK", {0, 16}},
+    {"A", {8, 24}},    {"CPK", {1, 0}},  {"MFGKO", {1, 4}},  {"RRRKO", {0, 4}},
+    {"PGKRO", {0, 4}}, {"FMO", {0, 4}},  {"GR", {0, 2300}},  {"GRO", {0, 2300}},
+    {"BRK", {0, 16}},  {"BRY", {0, 16}}, {"BMPRK", {0, 16}},
 };
 
 struct Target {
@@ -89,8 +89,8 @@ std::vector<Target> collectTargets() {
   for (const auto& [id, functions] : formatMap) {
     if (only && id != only) continue;
     auto guard = kGuards.find(id);
-    targets.push_back({id, functions.first, functions.second,
-                       guard == kGuards.end() ? Guard{} : guard->second});
+    targets.push_back(
+        {id, functions.first, functions.second, guard == kGuards.end() ? Guard{} : guard->second});
   }
   std::sort(targets.begin(), targets.end(),
             [](const Target& a, const Target& b) { return a.id < b.id; });

@@ -1,8 +1,8 @@
 #include "python/TraceEvents.h"
 
+#include "decoding/Escape.h"
 #include "python/Plugins.h"
 #include "python/PyText.h"
-#include "decoding/Escape.h"
 #include "tracing/DiscardedRecord.h"
 
 #include <utility>

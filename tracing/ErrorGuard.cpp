@@ -41,14 +41,14 @@ bt_message_iterator_class_initialize_method_status
 initializeIterator(bt_self_message_iterator* self, bt_self_message_iterator_configuration*,
                    bt_self_component_port_output*) {
   // A filter's self component is its self filter component: the library's own cast.
-  auto* filter = reinterpret_cast<bt_self_component_filter*>(
-      bt_self_message_iterator_borrow_component(self));
+  auto* filter =
+      reinterpret_cast<bt_self_component_filter*>(bt_self_message_iterator_borrow_component(self));
   auto guard = std::make_unique<Guard>();
   guard->listener = static_cast<const ErrorListener*>(
       bt_self_component_get_data(bt_self_message_iterator_borrow_component(self)));
   if (bt_message_iterator_create_from_message_iterator(
-          self, bt_self_component_filter_borrow_input_port_by_index(filter, 0),
-          &guard->upstream) != BT_MESSAGE_ITERATOR_CREATE_FROM_MESSAGE_ITERATOR_STATUS_OK)
+          self, bt_self_component_filter_borrow_input_port_by_index(filter, 0), &guard->upstream) !=
+      BT_MESSAGE_ITERATOR_CREATE_FROM_MESSAGE_ITERATOR_STATUS_OK)
     return BT_MESSAGE_ITERATOR_CLASS_INITIALIZE_METHOD_STATUS_ERROR;
   bt_self_message_iterator_set_data(self, guard.release());
   return BT_MESSAGE_ITERATOR_CLASS_INITIALIZE_METHOD_STATUS_OK;

@@ -19,7 +19,8 @@ bool MessageFilter::keeps(const bt_message* message) {
     const bt_event* event = bt_message_event_borrow_event_const(message);
     if (!keepsClass(bt_event_borrow_class_const(event))) return false;
     if (!begin_ && !end_) return true;
-    const bt_stream_class* stream = bt_stream_borrow_class_const(bt_event_borrow_stream_const(event));
+    const bt_stream_class* stream =
+        bt_stream_borrow_class_const(bt_event_borrow_stream_const(event));
     if (!bt_stream_class_borrow_default_clock_class_const(stream)) return true;
     const bt_clock_snapshot* at = bt_message_event_borrow_default_clock_snapshot_const(message);
     return touchesRange(at, at);

@@ -4,8 +4,8 @@
 
 #include "tracing/EventWalker.h"
 #include "tracing/JsonLayout.h"
-#include "tracing/TraceRequest.h"
 #include "tracing/TextLayout.h"
+#include "tracing/TraceRequest.h"
 
 #include <babeltrace2/babeltrace.h>
 

@@ -55,7 +55,8 @@ bt_component_class_initialize_method_status
 initializeTextSink(bt_self_component_sink* self, bt_self_component_sink_configuration*,
                    const bt_value* params, void* initializeData) {
   std::string problem;
-  std::unique_ptr<Sink> sink = makeSink(params, static_cast<const SinkSetup*>(initializeData), problem);
+  std::unique_ptr<Sink> sink =
+      makeSink(params, static_cast<const SinkSetup*>(initializeData), problem);
   if (!sink) {
     BT_CURRENT_THREAD_ERROR_APPEND_CAUSE_FROM_COMPONENT(selfOf(self), "%s", problem.c_str());
     return BT_COMPONENT_CLASS_INITIALIZE_METHOD_STATUS_ERROR;

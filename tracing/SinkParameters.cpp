@@ -27,7 +27,8 @@ std::string readOne(const RequestParameter& parameter, const bt_value* value,
     if (!bt_value_is_bool(value)) return wrongType;
     return setRequestParameter(request, name, bt_value_bool_get(value) ? "true" : "false");
   case ParameterKind::Time: {
-    if (!bt_value_is_signed_integer(value) && !bt_value_is_unsigned_integer(value)) return wrongType;
+    if (!bt_value_is_signed_integer(value) && !bt_value_is_unsigned_integer(value))
+      return wrongType;
     const std::int64_t ns = bt_value_is_signed_integer(value)
                                 ? bt_value_integer_signed_get(value)
                                 : static_cast<std::int64_t>(bt_value_integer_unsigned_get(value));

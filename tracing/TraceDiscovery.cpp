@@ -24,8 +24,7 @@ std::string traceUuid(const fs::path& metadata) {
   constexpr std::uint32_t kPacketMagic = 0x75d11d57;
   std::uint32_t magic = 0;
   if (text.size() >= 20) std::memcpy(&magic, text.data(), sizeof magic);
-  if (magic == kPacketMagic || magic == __builtin_bswap32(kPacketMagic))
-    return text.substr(4, 16);
+  if (magic == kPacketMagic || magic == __builtin_bswap32(kPacketMagic)) return text.substr(4, 16);
   static const std::regex kTraceUuid(R"re(trace\s*\{[^}]*?uuid\s*=\s*"([0-9A-Fa-f-]{36})")re");
   std::smatch found;
   return std::regex_search(text, found, kTraceUuid) ? found[1].str() : "";

@@ -1,7 +1,7 @@
 #include "tracing/TraceGraph.h"
 
-#include "tracing/PrintingConsumer.h"
 #include "tracing/ErrorGuard.h"
+#include "tracing/PrintingConsumer.h"
 #include "tracing/Sink.h"
 
 #include <babeltrace2/babeltrace.h>
@@ -63,8 +63,7 @@ constexpr std::string_view kSourcePrefix = "source-";
 
 /// The data stream file a message iterator's port reads ("UUID | ID | PATH"), or "".
 std::string streamFileOf(const bt_error_cause* cause) {
-  if (bt_error_cause_get_actor_type(cause) != BT_ERROR_CAUSE_ACTOR_TYPE_MESSAGE_ITERATOR)
-    return "";
+  if (bt_error_cause_get_actor_type(cause) != BT_ERROR_CAUSE_ACTOR_TYPE_MESSAGE_ITERATOR) return "";
   const std::string_view port =
       bt_error_cause_message_iterator_actor_get_component_output_port_name(cause);
   const std::size_t bar = port.rfind(" | ");
@@ -125,15 +124,9 @@ bool TraceGraph::connect(const bt_port_output* from, const bt_port_input* to) {
 }
 
 const bt_component_source* TraceGraph::addSource(const TraceSource& source, std::size_t index) {
-  if (!ctf_) ctf_ = plugin("ctf");
   const bt_component_class_source* sourceClass =
-      ctf_ ? bt_plugin_borrow_source_component_class_by_name_const(
-                 ctf_, source.live ? "lttng-live" : "fs")
-           : nullptr;
-  if (!sourceClass) {
-    problems_.push_back("babeltrace2's ctf plug-in is not installed");
-    return nullptr;
-  }
+      bt_plugin_borrow_source_component_class_by_name_const(ctf_,
+                                                            source.live ? "lttng-live" : "fs");
   Value params(bt_value_map_create());
   bt_value* inputs = nullptr;
   bt_value_map_insert_empty_array_entry(params.get(), "inputs", &inputs);
@@ -157,8 +150,8 @@ bool TraceGraph::addSink(const TraceRequest& request, MessageConsumer& consumer)
   std::unique_ptr<bt_component_class_sink, PutSinkClass> sinkClass(createTextSinkClass());
   SinkSetup setup{&consumer, &request};
   const bt_component_sink* sink = nullptr;
-  if (bt_graph_add_sink_component_with_initialize_method_data(
-          graph_, sinkClass.get(), "sink", nullptr, &setup, logLevel_, &sink) !=
+  if (bt_graph_add_sink_component_with_initialize_method_data(graph_, sinkClass.get(), "sink",
+                                                              nullptr, &setup, logLevel_, &sink) !=
       BT_GRAPH_ADD_COMPONENT_STATUS_OK) {
     report("the trace graph");
     return false;
@@ -171,8 +164,9 @@ bool TraceGraph::build(const std::vector<TraceSource>& sources, const TraceReque
                        MessageConsumer& consumer, std::size_t& failedSource) {
   graph_ = bt_graph_create(0);
   const bt_plugin* utils = plugin("utils");
-  if (!graph_ || !utils) {
-    problems_.push_back(graph_ ? "babeltrace2's utils plug-in is not installed"
+  if (!ctf_) ctf_ = plugin("ctf");
+  if (!graph_ || !utils || !ctf_) {
+    problems_.push_back(graph_ ? "babeltrace2's ctf and utils plug-ins are not installed"
                                : "cannot create a trace graph");
     return false;
   }

@@ -69,7 +69,7 @@ private:
   void destroy();
 
   std::vector<std::string> problems_, details_;
-  std::vector<TraceSource> sources_; ///< those of the graph, by the index in their names
+  std::vector<TraceSource> sources_;      ///< those of the graph, by the index in their names
   std::vector<const bt_plugin*> plugins_; // outlive the graph, whose components use them
   struct PutFilterClass {
     void operator()(bt_component_class_filter* filterClass) const {

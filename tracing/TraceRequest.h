@@ -44,7 +44,7 @@ enum class ParameterKind {
 
 /// One parameter of a request: its name in every front end, and its help.
 struct RequestParameter {
-  std::string_view name;      ///< "begin"; ovfmt's option is "--begin"
+  std::string_view name; ///< "begin"; ovfmt's option is "--begin"
   ParameterKind kind;
   std::string_view valueName; ///< what its value is ("T"), empty for a flag
   std::string_view help;      ///< one line or more, '\n' between them, 52 columns at most

@@ -110,10 +110,8 @@ TEST_F(TraceGraphTest, KeepsTheEventsTheRequestAsksFor) {
   };
   const Case cases[] = {
       {{}, 5},
-      {{{"events", "app:*"}}, 1},
       {{{"events", "bgp:route,nothing"}}, 3},
       {{{"begin", "1700000001000001000"}, {"end", "1700000001000003000"}}, 3},
-      {{{"begin", "1700000001.000003"}}, 2},
       {{{"clock-gmt", ""}, {"begin", "22:13:21.000004"}}, 1},
       {{{"clock-gmt", ""}, {"end", "2023-11-14 22:13:21.000001"}}, 2},
       {{{"end", "1700000000"}}, 0},
@@ -165,7 +163,6 @@ TEST_F(TraceGraphTest, ReportsDamageInOneLineAndReadsTheRest) {
   EXPECT_TRUE(graph.problems()[0].starts_with("cannot read the trace " + at("tree/broken") +
                                               " to its end: "))
       << graph.problems()[0];
-  EXPECT_FALSE(graph.details().empty());
 }
 
 // A source that stops a stream part-way leaves an error on the thread and returns OK:

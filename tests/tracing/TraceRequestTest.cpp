@@ -65,9 +65,7 @@ TEST(RequestParameters, SetByNameWithOneSetOfMessages) {
     const char* problem; // "" when it is set
   };
   const Case cases[] = {
-      {"format", "json", ""},
       {"format", "xml", "format is \"text\" or \"json\", not \"xml\""},
-      {"clock-gmt", "", ""},
       {"clock-gmt", "yes", "clock-gmt is true or false, not \"yes\""},
       {"events", "bgp:*,app:message", ""},
       {"events", "bgp:*,", "events takes GLOB[,GLOB]: a pattern is empty"},

@@ -90,7 +90,8 @@ constexpr std::string_view requestHelp(std::string_view name) {
 }
 
 // Sets the request parameter `Name` from an option of the same name.
-template <const char* Name> std::string setTraceParameter(Options& options, std::string_view value) {
+template <const char* Name>
+std::string setTraceParameter(Options& options, std::string_view value) {
   options.traceOnly.push_back(std::string("--") + Name);
   return tracing::setRequestParameter(options.trace, Name, value);
 }

@@ -38,8 +38,8 @@ struct PrintOptions {
 /// Where a record came from, put into words only when a message names it (most records
 /// need no message, so no text is built for them).
 struct Where {
-  std::string_view source; ///< the batch input's name, or the id list of the command line
-  std::size_t line = 0;    ///< the batch line, 0 for a record on the command line
+  std::string_view source;   ///< the batch input's name, or the id list of the command line
+  std::size_t line = 0;      ///< the batch line, 0 for a record on the command line
   std::size_t hexColumn = 1; ///< where the hex starts in its line, for error columns
 };
 
@@ -100,7 +100,7 @@ private:
   const PrintOptions& options_;
   decoding::TypeListCache typeLists_;
   decoding::RecordWalker walker_;
-  std::vector<std::string_view> ids_;   ///< the ids of a list not seen before
+  std::vector<std::string_view> ids_;             ///< the ids of a list not seen before
   std::vector<decoding::ArgumentType> resolved_;  ///< their types, as they are found
   std::span<const decoding::ArgumentType> types_; ///< the current record's types
   std::vector<std::string_view> gaps_;

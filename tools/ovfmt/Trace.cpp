@@ -29,7 +29,8 @@ void report(const Options& options, const tracing::TraceOutcome& outcome) {
   }
   for (const auto& problem : outcome.problems) std::cerr << "ovfmt: " << problem << "\n";
   if (options.verbose)
-    for (const auto& detail : outcome.details) std::cerr << "ovfmt:   caused by: " << detail << "\n";
+    for (const auto& detail : outcome.details)
+      std::cerr << "ovfmt:   caused by: " << detail << "\n";
   if (outcome.invalidFields > 0)
     std::cerr << "ovfmt: " << outcome.invalidFields
               << (outcome.invalidFields == 1 ? " typed field" : " typed fields") << " invalid\n";
