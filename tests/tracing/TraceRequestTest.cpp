@@ -32,6 +32,7 @@ TEST(TimeBound, ReadsEveryFormAndNothingElse) {
       {"1.", 0, "cannot read"},
       {"1700000001x", 0, "cannot read"},
       {"24:00", 0, "cannot read"},
+      {"22:60", 0, "cannot read"},
       {"2023-13-01 00:00", 0, "cannot read"},
   };
   for (const Case& c : cases) {
@@ -92,7 +93,6 @@ TEST(RequestParameters, SetByNameWithOneSetOfMessages) {
   EXPECT_TRUE(request.output.clock.delta);
 }
 
-// The sink's parameters are babeltrace2 values: each kind takes its own types.
 TEST(SinkParameters, TakeTypedValuesAndRefuseWhatTheyDoNotKnow) {
   struct Case {
     const char* name;
