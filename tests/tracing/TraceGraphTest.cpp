@@ -215,7 +215,7 @@ TEST_F(TraceGraphTest, OvfmtReadsTracesAsTheSinkDoes) {
     std::string shown; // a part of what is printed (stdout, then stderr)
   };
   const Case cases[] = {
-      {"--trace " + good + " --end 1700000001.000000 --fail-on-loss", 0, "et1 }\n"},
+      {"--trace " + good + " --end 1700000001.000000 --fail-on-loss", 0, "1\", addr = 10"},
       {"--trace " + good + " --end 1700000001.000001", 1, "ovfmt: 1 typed field invalid\n"},
       {"--trace net://127.0.0.1:1/host/h/s", 1, "cannot read the trace net://127.0.0.1:1/host/h/s"},
       {"--trace " + good + " --events 'app:*' --json", 0, "\"name\":\"app:message\",\"trace\":\"router1\""},
