@@ -1,6 +1,5 @@
 #include "python/TraceEvents.h"
 
-#include "decoding/Escape.h"
 #include "python/Plugins.h"
 #include "python/PyText.h"
 #include "tracing/DiscardedRecord.h"
@@ -24,16 +23,12 @@ py::bytes toBytes(std::span<const unsigned char> bytes) {
 /// origin, the unit of Event.timestamp_ns: "7 events discarded between timestamp_ns A
 /// and B in stream 0 of trace "router1"".
 std::string discardedMessage(const tracing::DiscardedRecord& d, std::string_view trace) {
-  const bool packets = d.packets;
-  const char* what = packets ? (d.hasCount && d.count == 1 ? "packet" : "packets")
-                             : (d.hasCount && d.count == 1 ? "event" : "events");
-  std::string line = (d.hasCount ? std::to_string(d.count) : "some") + " " + what + " discarded";
+  std::string line = tracing::lostText(d) + " discarded";
   std::int64_t beginNs = 0, endNs = 0;
   if (tracing::nsFromOrigin(d.begin, beginNs) && tracing::nsFromOrigin(d.end, endNs))
     line += " between timestamp_ns " + std::to_string(beginNs) + " and " + std::to_string(endNs);
-  line += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
-  decoding::appendEscapedText(line, trace);
-  return line + "\"";
+  tracing::appendLossPlace(line, d, trace);
+  return line;
 }
 
 /// Sets the parameter `name` from one text; raises ValueError with the request's problem.

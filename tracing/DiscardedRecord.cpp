@@ -1,5 +1,7 @@
 #include "tracing/DiscardedRecord.h"
 
+#include "decoding/Escape.h"
+
 namespace Orvane::tracing {
 
 DiscardedRecord discardedRecordOf(const bt_message* message) {
@@ -25,6 +27,23 @@ DiscardedRecord discardedRecordOf(const bt_message* message) {
     d.end = bt_message_discarded_events_borrow_end_default_clock_snapshot_const(message);
   }
   return d;
+}
+
+std::string lostCount(std::uint64_t count, bool packets) {
+  const char* what =
+      packets ? (count == 1 ? " packet" : " packets") : (count == 1 ? " event" : " events");
+  return std::to_string(count) + what;
+}
+
+std::string lostText(const DiscardedRecord& record) {
+  if (record.hasCount) return lostCount(record.count, record.packets);
+  return record.packets ? "some packets" : "some events";
+}
+
+void appendLossPlace(std::string& out, const DiscardedRecord& record, std::string_view trace) {
+  out += " in stream " + std::to_string(bt_stream_get_id(record.stream)) + " of trace \"";
+  decoding::appendEscapedText(out, trace);
+  out += '"';
 }
 
 } // namespace Orvane::tracing

@@ -5,6 +5,8 @@
 #include <babeltrace2/babeltrace.h>
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace Orvane::tracing {
 
@@ -21,5 +23,16 @@ struct DiscardedRecord {
 /// The record `message` carries; `message` is a discarded-events or discarded-packets
 /// message.
 DiscardedRecord discardedRecordOf(const bt_message* message);
+
+/// A count of lost events or packets as every reader words it: "7 events", "1 packet".
+std::string lostCount(std::uint64_t count, bool packets);
+
+/// What `record` says was lost: lostCount() of its count, or "some events" ("some
+/// packets") when it says no count.
+std::string lostText(const DiscardedRecord& record);
+
+/// Appends where `record`'s loss happened: ` in stream ID of trace "NAME"`, the trace's
+/// name escaped for a text line.
+void appendLossPlace(std::string& out, const DiscardedRecord& record, std::string_view trace);
 
 } // namespace Orvane::tracing

@@ -58,13 +58,10 @@ void MessagePrinter::appendBoundary(const bt_clock_snapshot* snapshot) {
 
 void MessagePrinter::printDiscarded(const bt_message* message) {
   const DiscardedRecord d = discardedRecordOf(message);
-  const bool packets = d.packets;
-  (packets ? discardedPackets_ : discardedEvents_) += d.hasCount ? d.count : 0;
-  const char* what = packets ? "packets" : "events";
-  const char* one = packets ? "packet" : "event";
+  (d.packets ? discardedPackets_ : discardedEvents_) += d.hasCount ? d.count : 0;
   if (json_) {
     out_ += R"({"type":"discarded_)";
-    out_ += what;
+    out_ += d.packets ? "packets" : "events";
     out_ += R"(","count":)";
     d.hasCount ? appendUnsigned(out_, d.count, false) : void(out_ += "null");
     out_ += R"(,"begin_ns":)";
@@ -78,18 +75,15 @@ void MessagePrinter::printDiscarded(const bt_message* message) {
     out_ += "}\n";
     return;
   }
-  warnings_ += "orvane: warning: ";
-  warnings_ += d.hasCount ? std::to_string(d.count) : std::string("some");
-  warnings_ += std::string(" ") + (d.hasCount && d.count == 1 ? one : what) + " discarded";
+  warnings_ += "orvane: warning: " + lostText(d) + " discarded";
   if (d.begin && d.end) {
     warnings_ += " between ";
     appendBoundary(d.begin);
     warnings_ += " and ";
     appendBoundary(d.end);
   }
-  warnings_ += " in stream " + std::to_string(bt_stream_get_id(d.stream)) + " of trace \"";
-  decoding::appendEscapedText(warnings_, traceOf(d.stream));
-  warnings_ += "\"\n";
+  appendLossPlace(warnings_, d, traceOf(d.stream));
+  warnings_ += '\n';
 }
 
 } // namespace Orvane::tracing

@@ -20,11 +20,13 @@ namespace fs = std::filesystem;
 /// trace, as babeltrace2 groups them.
 std::string traceUuid(const fs::path& metadata) {
   std::ifstream in(metadata, std::ios::binary);
-  std::string text((std::istreambuf_iterator<char>(in)), {});
+  std::string text(20, '\0'); // a packet header's magic and UUID: all a packetized file needs
+  text.resize(static_cast<std::size_t>(in.read(text.data(), 20).gcount()));
   constexpr std::uint32_t kPacketMagic = 0x75d11d57;
   std::uint32_t magic = 0;
-  if (text.size() >= 20) std::memcpy(&magic, text.data(), sizeof magic);
+  if (text.size() == 20) std::memcpy(&magic, text.data(), sizeof magic);
   if (magic == kPacketMagic || magic == __builtin_bswap32(kPacketMagic)) return text.substr(4, 16);
+  text.append(std::istreambuf_iterator<char>(in), {});
   static const std::regex kTraceUuid(R"re(trace\s*\{[^}]*?uuid\s*=\s*"([0-9A-Fa-f-]{36})")re");
   std::smatch found;
   return std::regex_search(text, found, kTraceUuid) ? found[1].str() : "";

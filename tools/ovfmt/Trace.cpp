@@ -1,6 +1,7 @@
 #include "tools/ovfmt/Trace.h"
 
 #ifdef ORVANE_WITH_TRACES
+#include "tracing/DiscardedRecord.h"
 #include "tracing/TraceGraph.h"
 #endif
 
@@ -14,10 +15,7 @@ constexpr int kExitOk = 0, kExitFailed = 1, kExitUsage = 2;
 #ifdef ORVANE_WITH_TRACES
 /// "3 events and 1 packet discarded", counting what the discarded records said.
 std::string lossLine(std::uint64_t events, std::uint64_t packets) {
-  const auto count = [](std::uint64_t n, const char* one, const char* many) {
-    return std::to_string(n) + " " + (n == 1 ? one : many);
-  };
-  return count(events, "event", "events") + " and " + count(packets, "packet", "packets") +
+  return tracing::lostCount(events, false) + " and " + tracing::lostCount(packets, true) +
          " discarded by the tracer";
 }
 
