@@ -100,12 +100,15 @@ constexpr char kBegin[] = "begin", kEnd[] = "end", kEvents[] = "events", kTypes[
                kClockSeconds[] = "clock-seconds", kClockDate[] = "clock-date",
                kClockGmt[] = "clock-gmt", kNoDelta[] = "no-delta";
 
-// Sets a flag of --trace's own.
-template <bool Options::*flag> std::string setTraceFlag(Options& options, std::string_view) {
+// Sets a flag of --trace's own, the option `Name`.
+template <bool Options::*flag, const char* Name>
+std::string setTraceFlag(Options& options, std::string_view) {
   options.*flag = true;
-  options.traceOnly.push_back(flag == &Options::verbose ? "--verbose" : "--fail-on-loss");
+  options.traceOnly.push_back(std::string("--") + Name);
   return "";
 }
+
+constexpr char kFailOnLoss[] = "fail-on-loss", kVerbose[] = "verbose";
 
 constexpr OptionRow kOptions[] = {
     {"batch", 0, "",
@@ -198,10 +201,10 @@ constexpr OptionRow kOptions[] = {
     {kClockDate, 0, "", requestHelp(kClockDate), setTraceParameter<kClockDate>},
     {kClockGmt, 0, "", requestHelp(kClockGmt), setTraceParameter<kClockGmt>},
     {kNoDelta, 0, "", requestHelp(kNoDelta), setTraceParameter<kNoDelta>},
-    {"fail-on-loss", 0, "", "exit 1 when the tracer lost events or packets",
-     setTraceFlag<&Options::failOnLoss>},
-    {"verbose", 'v', "", "print every cause libbabeltrace2 gives for a\nproblem, not one line",
-     setTraceFlag<&Options::verbose>},
+    {kFailOnLoss, 0, "", "exit 1 when the tracer lost events or packets",
+     setTraceFlag<&Options::failOnLoss, kFailOnLoss>},
+    {kVerbose, 'v', "", "print every cause libbabeltrace2 gives for a\nproblem, not one line",
+     setTraceFlag<&Options::verbose, kVerbose>},
 };
 
 // Where the options of --trace start in kOptions.
